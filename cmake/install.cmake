@@ -1,0 +1,29 @@
+# Installs the library with its headers, a CMake package
+# (find_package(KivTambroBase) -> KivTambro::Base) and a pkg-config file.
+include(CMakePackageConfigHelpers)
+
+set(KIVTAMBRO_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/KivTambroBase)
+
+install(TARGETS kivtambro-base EXPORT KivTambroBaseTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+file(GLOB public_headers ${PROJECT_SOURCE_DIR}/include/*.h)
+install(FILES ${public_headers} ${PROJECT_BINARY_DIR}/include/kivtambro_export.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kivtambro-base)
+
+install(EXPORT KivTambroBaseTargets
+    NAMESPACE KivTambro::
+    DESTINATION ${KIVTAMBRO_CMAKE_DIR})
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/KivTambroBaseConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/KivTambroBaseConfig.cmake
+    INSTALL_DESTINATION ${KIVTAMBRO_CMAKE_DIR})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/KivTambroBaseConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/KivTambroBaseConfig.cmake
+    ${PROJECT_BINARY_DIR}/KivTambroBaseConfigVersion.cmake
+    DESTINATION ${KIVTAMBRO_CMAKE_DIR})
+
+configure_file(${CMAKE_CURRENT_LIST_DIR}/kivtambro-base.pc.in
+    ${PROJECT_BINARY_DIR}/kivtambro-base.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/kivtambro-base.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,88 @@
+// The context frame: lazy initialisation, the registry handle, the device
+// name, the collation, and the clean-up at exit.
+#include "TAMBRO_Global.h"
+
+#include "TAMBRO_FixedFolder.h"
+#include "mount_scan.h"
+#include "partition_table.h"
+#include "types/icon_preload.h"
+
+#include <AM_MimeRegistry.h>
+#include <sortmethods.h>
+
+#include <cstdlib>
+#include <vector>
+
+bool TAMBRO_Global::initMemFlag = false;
+int TAMBRO_Global::phoneNoi = -1;
+bool TAMBRO_Global::bSetLocaleFlag = false;
+bool TAMBRO_Global::bmemberPasteCancelFlag = false;
+
+namespace {
+
+AM_MimeRegistry *mimeRegistry = nullptr;
+
+void releaseAtExit()
+{
+    delete Tambro::partitionTable();
+    Tambro::partitionTable() = nullptr;
+    delete mimeRegistry;
+    mimeRegistry = nullptr;
+}
+
+// The sorter takes big-endian UCS-2: each unit holds its code byte-swapped,
+// which on the little-endian phone lays the code out big-endian in memory.
+std::vector<unsigned short> sorterUnits(const QString &text)
+{
+    std::vector<unsigned short> units(size_t(text.size()) + 1, 0);
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const unsigned short code = text.at(i).unicode();
+        units[size_t(i)] = static_cast<unsigned short>(((code & 0xFF) << 8) | (code >> 8));
+    }
+    return units;
+}
+
+} // namespace
+
+TAMBRO_Global *TAMBRO_Global::instance()
+{
+    initMem(0);
+    static TAMBRO_Global *const single = [] {
+        std::atexit(releaseAtExit);
+        return new TAMBRO_Global;
+    }();
+    return single;
+}
+
+void TAMBRO_Global::initMem(int)
+{
+    if (initMemFlag)
+        return;
+    Tambro::PartitionTable *&table = Tambro::partitionTable();
+    if (!table)
+        table = new Tambro::PartitionTable;
+    Tambro::scanMounts(*table);
+    Tambro::preloadIcons();
+    initMemFlag = true;
+}
+
+AM_MimeRegistry *TAMBRO_Global::getAmMimeRegInstance()
+{
+    if (!mimeRegistry) {
+        mimeRegistry = new AM_MimeRegistry;
+        mimeRegistry->init(MIME_FILE_T(0));
+    }
+    return mimeRegistry;
+}
+
+QString TAMBRO_Global::getDeviceName()
+{
+    return TAMBRO_FixedFolder::m_sFMRootPath;
+}
+
+int TAMBRO_Global::compareString(const QString &first, const QString &second)
+{
+    const std::vector<unsigned short> firstUnits = sorterUnits(first);
+    const std::vector<unsigned short> secondUnits = sorterUnits(second);
+    return sortmethods_str_cmp(firstUnits.data(), secondUnits.data());
+}

@@ -1,0 +1,3 @@
+#include "TAMBRO_FixedFolder.h"
+
+QString TAMBRO_FixedFolder::m_sFMRootPath;

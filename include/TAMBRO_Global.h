@@ -1,0 +1,73 @@
+// The library's process-wide utility context: partitions, file types, icons,
+// folder resources, formatting and validation, all as static members.
+#pragma once
+
+#include "kivtambro_export.h"
+
+#include <QString>
+
+class AM_MimeRegistry;
+
+class KIVTAMBRO_EXPORT TAMBRO_Global
+{
+public:
+    // --- Context ---------------------------------------------------------
+
+    // The one process-wide object. Builds the partition table on first use.
+    static TAMBRO_Global *instance();
+    // Builds the partition table and preloads the icons unless initMemFlag is set.
+    // The argument is ignored; callers pass 0.
+    static void initMem(int unused);
+    // The one registry handle of the process, created on first request.
+    static AM_MimeRegistry *getAmMimeRegInstance();
+    // The file manager's root path.
+    static QString getDeviceName();
+    // Collation used to sort names: negative, zero or positive.
+    static int compareString(const QString &first, const QString &second);
+
+    // Cleared by a client that knows cards came or went: the next
+    // initialising query then rescans the partitions.
+    static bool initMemFlag;
+    // Kept for clients; the library never reads or writes these.
+    static int phoneNoi;
+    static bool bSetLocaleFlag;
+    static bool bmemberPasteCancelFlag;
+
+    // --- Partitions by number (1-based; numbers change on every rescan) ---
+
+    static int getPartiActNumber();
+    static QString getPartiName(int parti);
+    static QString getPartiShortName(int parti);
+    static QString getPartiLabel(int parti);
+    static QString getPartiDevName(int parti);
+    // 0 phone memory, 1 MegaSIM, 2 memory card; -1 when not found.
+    static int getDeviceCardType(int parti);
+    static bool isPhone(int parti);
+    static bool isCards(int parti);
+    static bool writeProtected(int parti);
+    static bool isCardLocked(int parti);
+    static bool isUnformattedParti(int parti);
+    static bool isInvalidParti(int parti);
+
+    // --- Partitions by device type or device name --------------------------
+
+    // Number of the phone memory partition, -1 when none.
+    static int getPhoneNoi();
+    // True when a partition of that device type is listed.
+    static bool isDeviceMounted(int deviceType);
+    // True when a partition has exactly that device name.
+    static bool isDeviceMounted(const char *deviceName);
+    static bool hasMMCSDCard(bool unused = false);
+    static QString getMountedPath(int deviceType);
+    static QString getDefaultMMCSDPartition();
+
+private:
+    TAMBRO_Global() = default;
+};
+
+extern "C" {
+// Despite its name the argument is a device type, as in isDeviceMounted(int).
+KIVTAMBRO_EXPORT int TAMBRO_IsDeviceMountedbyNum(int deviceType);
+KIVTAMBRO_EXPORT int TAMBRO_IsDeviceMountedbyName(const char *deviceName);
+KIVTAMBRO_EXPORT QString TAMBRO_GetDefaultMMCSDPartition();
+}

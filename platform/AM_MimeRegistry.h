@@ -15,6 +15,7 @@ public:
     AM_MimeRegistry();
     virtual ~AM_MimeRegistry();
 
+    // 0 when the registry could be opened.
     int init(MIME_FILE_T which);
     QString getAssociatedMimeType(const QString &extension);
     QStringList getAssociatedExtensions(const QString &mimeType);

@@ -1,0 +1,263 @@
+#include "keyfile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QStringDecoder>
+
+#include <algorithm>
+
+namespace {
+
+bool isAsciiDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+bool isAsciiHexDigit(QChar c)
+{
+    return isAsciiDigit(c) || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
+}
+
+// Quotes a piece of the input for a warning, shortened so that a huge line
+// does not make a huge message.
+QString quoted(const QString &text)
+{
+    constexpr int maxLength = 40;
+    if (text.size() <= maxLength)
+        return u'"' + text + u'"';
+    return u'"' + text.left(maxLength) + QStringLiteral("\"...");
+}
+
+// Configuration files of older tools are often Latin-1: a line that is not
+// valid UTF-8 is read as Latin-1 rather than dropped.
+QString decodeLine(QByteArrayView bytes)
+{
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString text = utf8.decode(bytes);
+    if (utf8.hasError())
+        return QString::fromLatin1(bytes);
+    return text;
+}
+
+QString leftTrimmed(const QString &text)
+{
+    const auto first = std::find_if(text.cbegin(), text.cend(),
+                                    [](QChar c) { return !c.isSpace(); });
+    return text.mid(int(first - text.cbegin()));
+}
+
+} // namespace
+
+class KeyFile::Parser
+{
+public:
+    Parser(KeyFile &result, const QString &origin) : m_result(result), m_origin(origin) {}
+
+    void parseLine(QByteArrayView bytes, int number);
+
+private:
+    void parseHeader(const QString &text, int number);
+    void parseEntry(const QString &text, int number);
+    void addEntry(const QString &key, const QString &value, int number);
+    void warn(int number, const QString &message);
+
+    KeyFile &m_result;
+    QString m_origin;
+    QHash<QString, int> m_sectionIndex;
+    QList<QHash<QString, int>> m_keyIndex; // per section: key -> entry index
+    int m_current = -1; // no section yet, or the last header was malformed
+    bool m_afterBadHeader = false;
+};
+
+void KeyFile::Parser::parseLine(QByteArrayView bytes, int number)
+{
+    if (bytes.endsWith('\r'))
+        bytes.chop(1);
+    if (bytes.contains('\0')) {
+        warn(number, QStringLiteral("line contains a NUL byte; ignored"));
+        return;
+    }
+    const QString text = leftTrimmed(decodeLine(bytes));
+    if (text.isEmpty() || text.startsWith(u'#') || text.startsWith(u';'))
+        return;
+    if (text.startsWith(u'['))
+        parseHeader(text.trimmed(), number);
+    else
+        parseEntry(text, number);
+}
+
+void KeyFile::Parser::parseHeader(const QString &text, int number)
+{
+    m_current = -1;
+    m_afterBadHeader = true;
+    if (!text.endsWith(u']')) {
+        warn(number, QStringLiteral("section header does not end in ']'; "
+                                    "entries up to the next section are ignored"));
+        return;
+    }
+    const QString name = text.mid(1, text.size() - 2).trimmed();
+    if (name.isEmpty()) {
+        warn(number, QStringLiteral("empty section name; "
+                                    "entries up to the next section are ignored"));
+        return;
+    }
+    m_afterBadHeader = false;
+    const auto known = m_sectionIndex.constFind(name);
+    if (known != m_sectionIndex.cend()) {
+        m_current = *known;
+        return;
+    }
+    m_current = int(m_result.m_sections.size());
+    m_sectionIndex.insert(name, m_current);
+    m_keyIndex.append(QHash<QString, int>());
+    m_result.m_sections.append(Section{name, number, {}});
+}
+
+void KeyFile::Parser::parseEntry(const QString &text, int number)
+{
+    const qsizetype equals = text.indexOf(u'=');
+    if (equals < 0) {
+        warn(number, QStringLiteral("expected \"key = value\" or \"[section]\"; ignored"));
+        return;
+    }
+    const QString key = text.left(equals).trimmed();
+    if (key.isEmpty()) {
+        warn(number, QStringLiteral("no key before '='; ignored"));
+        return;
+    }
+    if (m_current < 0) {
+        // The header's own warning already covers the entries after a bad header.
+        if (!m_afterBadHeader)
+            warn(number, QStringLiteral("entry %1 before any section; ignored").arg(quoted(key)));
+        return;
+    }
+    addEntry(key, leftTrimmed(text.mid(equals + 1)), number);
+}
+
+void KeyFile::Parser::addEntry(const QString &key, const QString &value, int number)
+{
+    Section &section = m_result.m_sections[m_current];
+    QHash<QString, int> &index = m_keyIndex[m_current];
+    const auto known = index.constFind(key);
+    if (known == index.cend()) {
+        index.insert(key, int(section.entries.size()));
+        section.entries.append(Entry{key, value, number});
+        return;
+    }
+    Entry &entry = section.entries[*known];
+    warn(number, QStringLiteral("duplicate key %1 in [%2] replaces the value of line %3")
+                     .arg(quoted(key), section.name)
+                     .arg(entry.line));
+    entry.value = value;
+    entry.line = number;
+}
+
+void KeyFile::Parser::warn(int number, const QString &message)
+{
+    m_result.m_warnings.append(QStringLiteral("%1:%2: %3").arg(m_origin).arg(number).arg(message));
+}
+
+KeyFile KeyFile::parse(const QByteArray &data, const QString &origin)
+{
+    KeyFile result;
+    Parser parser(result, origin);
+    QByteArrayView rest(data);
+    if (rest.startsWith("\xEF\xBB\xBF"))
+        rest = rest.sliced(3);
+    for (int number = 1; !rest.isEmpty(); ++number) {
+        const qsizetype end = rest.indexOf('\n');
+        parser.parseLine(end < 0 ? rest : rest.first(end), number);
+        rest = end < 0 ? QByteArrayView() : rest.sliced(end + 1);
+    }
+    return result;
+}
+
+KeyFile KeyFile::load(const QString &path)
+{
+    QFile file(path);
+    if (!file.exists())
+        return {};
+    KeyFile result;
+    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
+        const QString reason = QFileInfo(path).isDir() ? QStringLiteral("is a folder")
+                                                       : file.errorString();
+        result.m_warnings.append(QStringLiteral("%1: cannot read: %2").arg(path, reason));
+        return result;
+    }
+    return parse(file.readAll(), path);
+}
+
+std::optional<qint64> KeyFile::toNumber(const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    bool ok = false;
+    qint64 number = 0;
+    if (trimmed.startsWith(QLatin1String("0x"), Qt::CaseInsensitive)) {
+        const QStringView digits = QStringView(trimmed).mid(2);
+        if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isAsciiHexDigit))
+            return std::nullopt;
+        number = digits.toLongLong(&ok, 16);
+    } else {
+        const QStringView digits = QStringView(trimmed).mid(trimmed.startsWith(u'-') ? 1 : 0);
+        if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isAsciiDigit))
+            return std::nullopt;
+        number = trimmed.toLongLong(&ok, 10);
+    }
+    return ok ? std::optional<qint64>(number) : std::nullopt;
+}
+
+const KeyFile::Section *KeyFile::section(const QString &name) const
+{
+    const auto found = std::find_if(m_sections.cbegin(), m_sections.cend(),
+                                    [&](const Section &s) { return s.name == name; });
+    return found == m_sections.cend() ? nullptr : &*found;
+}
+
+QStringList KeyFile::keys(const QString &sectionName) const
+{
+    const Section *found = section(sectionName);
+    return found ? found->keys() : QStringList();
+}
+
+QString KeyFile::value(const QString &sectionName, const QString &key,
+                       const QString &fallback) const
+{
+    const Section *found = section(sectionName);
+    const Entry *entry = found ? found->find(key) : nullptr;
+    return entry ? entry->value : fallback;
+}
+
+QString KeyFile::valueIgnoringCase(const QString &sectionName, const QString &key,
+                                   const QString &fallback) const
+{
+    const Section *found = section(sectionName);
+    const Entry *entry = found ? found->findIgnoringCase(key) : nullptr;
+    return entry ? entry->value : fallback;
+}
+
+const KeyFile::Entry *KeyFile::Section::find(const QString &key) const
+{
+    const auto found = std::find_if(entries.cbegin(), entries.cend(),
+                                    [&](const Entry &e) { return e.key == key; });
+    return found == entries.cend() ? nullptr : &*found;
+}
+
+const KeyFile::Entry *KeyFile::Section::findIgnoringCase(const QString &key) const
+{
+    if (const Entry *exact = find(key))
+        return exact;
+    const auto found = std::find_if(entries.cbegin(), entries.cend(), [&](const Entry &e) {
+        return e.key.compare(key, Qt::CaseInsensitive) == 0;
+    });
+    return found == entries.cend() ? nullptr : &*found;
+}
+
+QStringList KeyFile::Section::keys() const
+{
+    QStringList result;
+    result.reserve(entries.size());
+    for (const Entry &entry : entries)
+        result.append(entry.key);
+    return result;
+}

@@ -1,0 +1,52 @@
+#include "ZConfig.h"
+
+#include "keyfile.h"
+
+#include <QDebug>
+#include <QFile>
+
+#include <climits>
+
+struct ZConfig::Data
+{
+    KeyFile file;
+};
+
+ZConfig::ZConfig(const QString &path, bool create) : d(std::make_unique<Data>())
+{
+    if (create && !QFile::exists(path)) {
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly))
+            qWarning().noquote() << "kivsim: warning: cannot create" << path + u':' << file.errorString();
+    }
+    d->file = KeyFile::load(path);
+    for (const QString &warning : d->file.warnings())
+        qWarning().noquote() << "kivsim: warning:" << warning;
+}
+
+ZConfig::~ZConfig() = default;
+
+QMap<QString, QString> ZConfig::getGroupEntriesKeyList(const QString &group) const
+{
+    QMap<QString, QString> entries;
+    if (const KeyFile::Section *section = d->file.section(group)) {
+        for (const KeyFile::Entry &entry : section->entries)
+            entries.insert(entry.key, entry.value);
+    }
+    return entries;
+}
+
+QString ZConfig::readEntry(const QString &group, const QString &key,
+                           const QString &defaultValue) const
+{
+    return d->file.value(group, key, defaultValue);
+}
+
+int ZConfig::readNumEntry(const QString &group, const QString &key, int defaultValue) const
+{
+    const QString text = d->file.value(group, key);
+    const std::optional<qint64> number = KeyFile::toNumber(text);
+    if (!number || *number < INT_MIN || *number > INT_MAX)
+        return defaultValue;
+    return int(*number);
+}

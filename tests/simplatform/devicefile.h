@@ -1,0 +1,37 @@
+// The simulated phone's device file of one test process, in a temporary folder.
+#pragma once
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+class TestDeviceFile
+{
+public:
+    // Names the file in KIVSIM_DEVICE; construct it before the first platform call.
+    TestDeviceFile() : m_path(m_dir.filePath(QStringLiteral("device.ini")))
+    {
+        qputenv("KIVSIM_DEVICE", QFile::encodeName(m_path));
+    }
+
+    // Every write gets a later modification time, so that a rewrite of the same
+    // size within the file system's clock tick is noticed as a change too.
+    bool write(const QByteArray &content)
+    {
+        QFile file(m_path);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
+            return false;
+        const QDateTime stamp = QDateTime(QDate(2020, 1, 1), QTime(0, 0)).addSecs(++m_writes);
+        return file.setFileTime(stamp, QFileDevice::FileModificationTime);
+    }
+
+    bool remove() { return QFile::remove(m_path); }
+    QString path() const { return m_path; }
+    QDir dir() const { return QDir(m_dir.path()); }
+
+private:
+    QTemporaryDir m_dir;
+    QString m_path;
+    int m_writes = 0;
+};

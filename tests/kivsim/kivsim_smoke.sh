@@ -1,0 +1,164 @@
+#!/bin/bash
+# Smoke test of kivsim: runs commands on the sample phone and on odd phones
+# made here, and checks what they see.
+#
+#   kivsim_smoke.sh KIVSIM SAMPLE_DEVICE GROUP
+#
+# GROUP is one of: layout, isolation, exit_status, usage, odd_devices, journal.
+
+set -u
+kivsim=$1
+sample=$2
+group=$3
+
+work=$(mktemp -d "${TMPDIR:-/tmp}/kivsim-smoke-XXXXXX") || exit 1
+trap 'rm -rf "$work"' EXIT
+failures=0
+
+fail() {
+    echo "FAIL: $*"
+    failures=$((failures + 1))
+}
+
+# expect_status WANTED DESCRIPTION COMMAND...: the command's exit status.
+expect_status() {
+    local wanted=$1 what=$2
+    shift 2
+    "$@"
+    local status=$?
+    [ "$status" -eq "$wanted" ] || fail "$what: exit status $status, expected $wanted"
+}
+
+# on DEVICE SCRIPT: runs a shell script on the phone; stderr goes to $work/stderr.
+on() {
+    "$kivsim" --device "$1" -- sh -c "$2" 2>"$work/stderr"
+}
+
+# A device folder made from device.ini text and optional content.
+make_device() {
+    mkdir -p "$work/$1"
+    printf '%s\n' "$2" >"$work/$1/device.ini"
+    echo "$work/$1"
+}
+
+test_layout() {
+    # The working folder is kept, so relative paths name the sample's files.
+    cd "$sample" || exit 1
+
+    on "$sample" 'cat /etc/mtab' >"$work/mtab" || fail "reading /etc/mtab"
+    cmp -s "$work/mtab" mtab || fail "/etc/mtab differs from the device's mount table"
+    [ "$(on "$sample" 'test -f /etc/mtab && test ! -L /etc/mtab &&
+            echo "x /mmc/x vfat rw 0 0" >>/etc/mtab && tail -n 1 /etc/mtab')" = "x /mmc/x vfat rw 0 0" ] ||
+        fail "/etc/mtab is not a writable regular file"
+
+    # Sizes as the sample's device file gives them: 32M, 64M and 8M.
+    local sizes
+    sizes=$(on "$sample" 'for m in /kivlocal/download/tambro /mmc/mmca1 /mmc/megasim1; do
+            stat -f -c "%S*%b" "$m"; done' | while read -r product; do echo $((product)); done)
+    [ "$sizes" = "$(printf '%s\n' 33554432 67108864 8388608)" ] ||
+        fail "storage sizes are $(echo $sizes), expected 32M 64M 8M"
+
+    # The storages hold exactly the device's content, hidden files included.
+    on "$sample" 'diff -r phone /kivlocal/download/tambro && diff -r card /mmc/mmca1 &&
+            diff -r megasim /mmc/megasim1' || fail "storage content differs: $(cat "$work/stderr")"
+    on "$sample" 'diff -r data_resource /usr/data_resource &&
+            cmp tambro/kiv_tambrostruct.cfg /usr/SYSqtapp/tambro/kiv_tambrostruct.cfg &&
+            test -x /usr/bin/env' || fail "system folders missing or different"
+
+    on "$sample" '[ "$TAMBRO_DATA_PATH" = /kivlocal/download/tambro ] &&
+            [ "$KIV_APP_WRITE_PATH" = /kivlocal/appdata ] &&
+            [ "$KIVSIM_DEVICE" = /run/kivsim/device/device.ini ] && cmp "$KIVSIM_DEVICE" device.ini &&
+            touch "$KIV_APP_WRITE_PATH/written"' || fail "environment or write folder not as expected"
+    [ "$(on "$sample" pwd)" = "$(pwd)" ] || fail "working folder not kept"
+}
+
+test_isolation() {
+    local before after
+    before=$(cd "$sample" && find . -printf '%p %y %s %m %T@\n' | sort && find . -type f -exec md5sum {} + | sort)
+    on "$sample" 'echo "changed" >>/etc/mtab; echo "[flex]" >>"$KIVSIM_DEVICE";
+            rm -rf /kivlocal/download/tambro/* /run/kivsim/device/phone;
+            touch /mmc/mmca1/new /mmc/megasim1/new "$KIV_APP_WRITE_PATH/new"' ||
+        fail "writing to the phone: $(cat "$work/stderr")"
+    after=$(cd "$sample" && find . -printf '%p %y %s %m %T@\n' | sort && find . -type f -exec md5sum {} + | sort)
+    [ "$before" = "$after" ] || fail "a run changed the repository's device folder"
+
+    on "$sample" 'touch /usr/data_resource/x || touch /usr/SYSqtapp/tambro/x || touch /usr/x || touch /etc/x' &&
+        fail "read-only parts of the phone or host are writable"
+    # A fresh run starts from the device folder again.
+    on "$sample" 'test -f /kivlocal/download/tambro/documents/readme.txt && ! grep -q changed /etc/mtab' ||
+        fail "a run saw the changes of an earlier one"
+}
+
+test_exit_status() {
+    expect_status 0 "true" on "$sample" 'exit 0'
+    expect_status 42 "exit 42" on "$sample" 'exit 42'
+    expect_status 137 "killed by SIGKILL" on "$sample" 'kill -KILL $$'
+    expect_status 127 "missing command" "$kivsim" --device "$sample" -- /kivsim-no-such-folder/command 2>/dev/null
+    # Arguments after the command are the command's, even when they look like options.
+    [ "$("$kivsim" --device "$sample" -- echo --device -x 'two words')" = "--device -x two words" ] ||
+        fail "arguments not passed through"
+}
+
+test_usage() {
+    expect_status 2 "nonexistent device" "$kivsim" --device "$work/none" -- true 2>"$work/stderr"
+    grep -q "$work/none" "$work/stderr" || fail "no message naming the missing device folder"
+    expect_status 2 "folder without device.ini" "$kivsim" --device "$work" -- true 2>"$work/stderr"
+    grep -q "device.ini" "$work/stderr" || fail "no message about the missing device.ini"
+    expect_status 2 "no command" "$kivsim" --device "$sample" 2>/dev/null
+    expect_status 2 "unknown option" "$kivsim" --no-such-option -- true 2>/dev/null
+}
+
+test_odd_devices() {
+    # Bad lines are reported with file and line; the phone runs with defaults.
+    local odd
+    odd=$(make_device odd '[sandbox]
+phone_size = lots
+card_size = 1M
+megasim_size = -8M
+mtab = ../../etc/passwd
+this is no key
+write_path = relative/path')
+    printf 'garbage \001 line\n/dev/mmca1 /mmc/mmca1 vfat rw 0 0 extra fields\n' >"$odd/mtab"
+    on "$odd" 'test ! -e /kivlocal/download/tambro && test ! -e /mmc/megasim1 &&
+            [ $(($(stat -f -c "%S*%b" /mmc/mmca1))) = 1048576 ] && cat /etc/mtab &&
+            [ "$KIV_APP_WRITE_PATH" = relative/path ]' >"$work/seen" ||
+        fail "odd device: storages or write path wrong: $(cat "$work/stderr")"
+    cmp -s "$work/seen" "$odd/mtab" || fail "odd mount table text not shown as it is"
+    for line in 2 4 5 6 7; do
+        grep -q "$odd/device.ini:$line:" "$work/stderr" || fail "no warning for device.ini line $line"
+    done
+
+    # A missing mount table gives a warning and an empty /etc/mtab.
+    local bare
+    bare=$(make_device bare '[sandbox]
+mtab = tables/none')
+    [ "$(on "$bare" 'wc -c </etc/mtab')" = 0 ] || fail "missing mount table: /etc/mtab not empty"
+    grep -q "tables/none" "$work/stderr" || fail "missing mount table: no warning"
+
+    # Content that does not fit its storage is a setup failure, not the command's.
+    local small
+    small=$(make_device small '[sandbox]
+phone_size = 8K')
+    mkdir -p "$small/phone"
+    for name in a b c d; do head -c 4096 /dev/zero >"$small/phone/$name"; done
+    expect_status 125 "overfull storage" on "$small" 'exit 0'
+    grep -q "phone memory" "$work/stderr" || fail "overfull storage: no message naming it"
+}
+
+test_journal() {
+    # The journal's folder is shared with the host, even under the hidden /tmp.
+    KIVSIM_JOURNAL="$work/journal/calls.jsonl" on "$sample" \
+        'echo "{\"call\":\"test\"}" >>"$KIVSIM_JOURNAL"' || fail "writing the journal: $(cat "$work/stderr")"
+    [ "$(cat "$work/journal/calls.jsonl" 2>/dev/null)" = '{"call":"test"}' ] ||
+        fail "the journal did not land on the host"
+}
+
+case $group in
+layout | isolation | exit_status | usage | odd_devices | journal) "test_$group" ;;
+*)
+    echo "unknown group $group"
+    exit 2
+    ;;
+esac
+[ "$failures" -eq 0 ] || exit 1
+echo "PASS: $group"

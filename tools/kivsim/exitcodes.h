@@ -1,0 +1,7 @@
+// Exit statuses of kivsim's own failures; any other status is the command's.
+#pragma once
+
+namespace ExitCode {
+constexpr int Usage = 2; // bad arguments or a folder that is no device
+constexpr int SetupFailed = 125; // the sandbox could not be set up
+} // namespace ExitCode

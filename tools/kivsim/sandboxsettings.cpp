@@ -1,0 +1,140 @@
+#include "sandboxsettings.h"
+
+#include "simplatform/keyfile.h"
+
+#include <QDir>
+
+#include <limits>
+
+namespace {
+
+const QString sectionName = QStringLiteral("sandbox");
+
+std::optional<qint64> unitOf(QChar suffix)
+{
+    switch (suffix.toUpper().unicode()) {
+    case u'K':
+        return Q_INT64_C(1) << 10;
+    case u'M':
+        return Q_INT64_C(1) << 20;
+    case u'G':
+        return Q_INT64_C(1) << 30;
+    default:
+        return std::nullopt;
+    }
+}
+
+class SectionReader
+{
+public:
+    SectionReader(const QString &origin, QStringList &warnings)
+        : m_origin(origin), m_warnings(warnings)
+    {
+    }
+
+    void read(const KeyFile::Entry &entry, SandboxSettings &settings);
+
+private:
+    void readSize(const KeyFile::Entry &entry, qint64 &target);
+    void readWritePath(const KeyFile::Entry &entry, QString &target);
+    void readFileName(const KeyFile::Entry &entry, QString &target);
+    void warn(const KeyFile::Entry &entry, const QString &why);
+
+    QString m_origin;
+    QStringList &m_warnings;
+};
+
+void SectionReader::read(const KeyFile::Entry &entry, SandboxSettings &settings)
+{
+    if (entry.key == QLatin1String("mtab"))
+        readFileName(entry, settings.mountTable);
+    else if (entry.key == QLatin1String("phone_size"))
+        readSize(entry, settings.phoneSize);
+    else if (entry.key == QLatin1String("card_size"))
+        readSize(entry, settings.cardSize);
+    else if (entry.key == QLatin1String("megasim_size"))
+        readSize(entry, settings.megaSimSize);
+    else if (entry.key == QLatin1String("data_path"))
+        settings.dataPath = entry.value;
+    else if (entry.key == QLatin1String("write_path"))
+        readWritePath(entry, settings.writePath);
+    else
+        warn(entry, QStringLiteral("unknown key; ignored"));
+}
+
+void SectionReader::readSize(const KeyFile::Entry &entry, qint64 &target)
+{
+    if (const std::optional<qint64> size = parseByteSize(entry.value))
+        target = *size;
+    else
+        warn(entry, QStringLiteral("\"%1\" is not a size in bytes (with K, M or G); no storage")
+                        .arg(entry.value.trimmed()));
+}
+
+void SectionReader::readWritePath(const KeyFile::Entry &entry, QString &target)
+{
+    // Odd values are passed on as they are; only the folder needs a usable path.
+    target = entry.value;
+    if (folderOf(entry.value).isEmpty())
+        warn(entry, QStringLiteral("not an absolute path; no folder is made for it"));
+}
+
+void SectionReader::readFileName(const KeyFile::Entry &entry, QString &target)
+{
+    const QString name = entry.value.trimmed();
+    const QString cleaned = QDir::cleanPath(name);
+    if (name.isEmpty() || QDir::isAbsolutePath(name) || cleaned.startsWith(QLatin1String(".."))) {
+        warn(entry, QStringLiteral("not a file inside the device folder; \"%1\" is used")
+                        .arg(target));
+        return;
+    }
+    target = cleaned;
+}
+
+void SectionReader::warn(const KeyFile::Entry &entry, const QString &why)
+{
+    m_warnings.append(QStringLiteral("%1:%2: [%3] %4: %5")
+                          .arg(m_origin)
+                          .arg(entry.line)
+                          .arg(sectionName, entry.key, why));
+}
+
+} // namespace
+
+SandboxSettings SandboxSettings::from(const KeyFile &device, const QString &origin,
+                                      QStringList &warnings)
+{
+    SandboxSettings settings;
+    const KeyFile::Section *section = device.section(sectionName);
+    if (!section)
+        return settings;
+    SectionReader reader(origin, warnings);
+    for (const KeyFile::Entry &entry : section->entries)
+        reader.read(entry, settings);
+    return settings;
+}
+
+std::optional<qint64> parseByteSize(const QString &text)
+{
+    QString number = text.trimmed();
+    qint64 unit = 1;
+    // A hex number may end in a letter, but never in K, M or G.
+    if (!number.isEmpty()) {
+        if (const std::optional<qint64> suffixUnit = unitOf(number.back())) {
+            unit = *suffixUnit;
+            number.chop(1);
+        }
+    }
+    const std::optional<qint64> count = KeyFile::toNumber(number);
+    if (!count || *count < 0 || *count > std::numeric_limits<qint64>::max() / unit)
+        return std::nullopt;
+    return *count * unit;
+}
+
+QString folderOf(const QString &pathSetting)
+{
+    const QString path = pathSetting.trimmed();
+    if (!path.startsWith(u'/'))
+        return QString();
+    return QDir::cleanPath(path);
+}

@@ -1,0 +1,90 @@
+#include "storage_command.h"
+
+#include "text_table.h"
+
+#include <TAMBRO_Global.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+QString kindName(int deviceType)
+{
+    switch (deviceType) {
+    case 0:
+        return QStringLiteral("phone");
+    case 1:
+        return QStringLiteral("megasim");
+    case 2:
+        return QStringLiteral("card");
+    }
+    return QStringLiteral("unknown");
+}
+
+QString statusName(int parti)
+{
+    if (TAMBRO_Global::isCardLocked(parti))
+        return QStringLiteral("locked");
+    if (TAMBRO_Global::isUnformattedParti(parti))
+        return QStringLiteral("unformatted");
+    if (TAMBRO_Global::isInvalidParti(parti))
+        return QStringLiteral("invalid");
+    return QStringLiteral("ready");
+}
+
+QJsonObject partitionObject(int parti)
+{
+    return QJsonObject{
+        {QStringLiteral("number"), parti},
+        {QStringLiteral("kind"), kindName(TAMBRO_Global::getDeviceCardType(parti))},
+        {QStringLiteral("name"), TAMBRO_Global::getPartiShortName(parti)},
+        {QStringLiteral("label"), TAMBRO_Global::getPartiLabel(parti)},
+        {QStringLiteral("device"), TAMBRO_Global::getPartiDevName(parti)},
+        {QStringLiteral("path"), TAMBRO_Global::getPartiName(parti)},
+        {QStringLiteral("status"), statusName(parti)},
+        {QStringLiteral("writeProtected"), TAMBRO_Global::writeProtected(parti)},
+        {QStringLiteral("locked"), TAMBRO_Global::isCardLocked(parti)},
+    };
+}
+
+QString yesNo(bool value)
+{
+    return value ? QStringLiteral("yes") : QStringLiteral("no");
+}
+
+QString textTable(const QJsonArray &partitions)
+{
+    TextTable table({QStringLiteral("#"), QStringLiteral("KIND"), QStringLiteral("NAME"),
+                     QStringLiteral("LABEL"), QStringLiteral("DEVICE"), QStringLiteral("PATH"),
+                     QStringLiteral("STATUS"), QStringLiteral("WP"), QStringLiteral("LOCKED")});
+    for (const QJsonValue &value : partitions) {
+        const QJsonObject p = value.toObject();
+        const QString path = p[QStringLiteral("path")].toString();
+        table.addRow({QString::number(p[QStringLiteral("number")].toInt()),
+                      p[QStringLiteral("kind")].toString(), p[QStringLiteral("name")].toString(),
+                      p[QStringLiteral("label")].toString(), p[QStringLiteral("device")].toString(),
+                      path.isEmpty() ? QStringLiteral("-") : path,
+                      p[QStringLiteral("status")].toString(),
+                      yesNo(p[QStringLiteral("writeProtected")].toBool()),
+                      yesNo(p[QStringLiteral("locked")].toBool())});
+    }
+    return table.toString();
+}
+
+} // namespace
+
+int runStorageCommand(QTextStream &out, bool json)
+{
+    TAMBRO_Global::instance();
+    QJsonArray partitions;
+    for (int parti = 1; parti <= TAMBRO_Global::getPartiActNumber(); ++parti)
+        partitions.append(partitionObject(parti));
+
+    if (json)
+        out << QJsonDocument(partitions).toJson(QJsonDocument::Indented);
+    else
+        out << textTable(partitions);
+    return 0;
+}

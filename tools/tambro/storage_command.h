@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QTextStream>
+
+// Prints the partition table, as aligned text or as JSON.
+int runStorageCommand(QTextStream &out, bool json);

@@ -23,6 +23,9 @@ install(FILES
     ${PROJECT_BINARY_DIR}/KivTambroBaseConfigVersion.cmake
     DESTINATION ${KIVTAMBRO_CMAKE_DIR})
 
+# The .pc file finds the prefix from its own place, so that an install with
+# `cmake --install --prefix` elsewhere still describes itself correctly.
+file(RELATIVE_PATH KIVTAMBRO_PC_TO_PREFIX /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/kivtambro-base.pc.in
     ${PROJECT_BINARY_DIR}/kivtambro-base.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/kivtambro-base.pc

@@ -1,0 +1,82 @@
+#include "test_phone.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QSaveFile>
+#include <QStringList>
+
+namespace TestPhone {
+
+namespace {
+
+void writeOrDie(QFileDevice &file, const QByteArray &data)
+{
+    if (file.write(data) != data.size())
+        qFatal("cannot write %s: %s", qPrintable(file.fileName()), qPrintable(file.errorString()));
+}
+
+} // namespace
+
+void setMountTable(const QByteArray &text)
+{
+    // /etc/mtab is a bind-mounted file: rewrite it in place.
+    QFile file(QStringLiteral("/etc/mtab"));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        qFatal("cannot open /etc/mtab: %s", qPrintable(file.errorString()));
+    writeOrDie(file, text);
+}
+
+void setDevice(const QByteArray &ini)
+{
+    // A new file under the same name, so the platform sees a change even
+    // within one tick of the file system's clock.
+    QSaveFile file(qEnvironmentVariable("KIVSIM_DEVICE"));
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write the device file: %s", qPrintable(file.errorString()));
+    writeOrDie(file, ini);
+    if (!file.commit())
+        qFatal("cannot replace the device file: %s", qPrintable(file.errorString()));
+}
+
+void startJournal()
+{
+    const QString path = QDir::tempPath() + QStringLiteral("/kivtambro-test-journal.jsonl");
+    QFile::remove(path);
+    qputenv("KIVSIM_JOURNAL", QFile::encodeName(path));
+}
+
+QList<QByteArray> journalLines()
+{
+    QFile file(qEnvironmentVariable("KIVSIM_JOURNAL"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QList<QByteArray> lines = file.readAll().split('\n');
+    lines.removeAll(QByteArray());
+    return lines;
+}
+
+QList<QJsonObject> journal()
+{
+    QList<QJsonObject> calls;
+    for (const QByteArray &line : journalLines())
+        calls.append(QJsonDocument::fromJson(line).object());
+    return calls;
+}
+
+QStringList journalCalls()
+{
+    QStringList names;
+    for (const QJsonObject &call : journal())
+        names.append(call.value(QStringLiteral("call")).toString());
+    return names;
+}
+
+void clearJournal()
+{
+    QFile file(qEnvironmentVariable("KIVSIM_JOURNAL"));
+    if (file.exists() && !file.resize(0))
+        qFatal("cannot clear the journal: %s", qPrintable(file.errorString()));
+}
+
+} // namespace TestPhone

@@ -7,6 +7,7 @@
 #include "test_phone.h"
 
 #include <QTest>
+#include <QTranslator>
 
 namespace {
 
@@ -164,6 +165,24 @@ private Q_SLOTS:
     {
         // CTest runs this one with a German locale, for which no catalogue exists.
         QCOMPARE(TAMBRO_Global::getPartiShortName(1), QStringLiteral("My Files"));
+        QCOMPARE(TAMBRO_Global::getPartiShortName(2), QStringLiteral("Memory Card"));
+    }
+
+    void englishCatalogueIsLoadedAtStartup()
+    {
+        // Asked of Qt directly, so the library's own fallback cannot answer.
+        QCOMPARE(QCoreApplication::translate("TAMBRO_Global", "TXT_RID_LIST_A_MEMORY_CARD",
+                                             "Memory Card"),
+                 QStringLiteral("Memory Card"));
+    }
+
+    void anotherLanguageIsOneMoreCatalogue()
+    {
+        QTranslator german;
+        QVERIFY(german.load(QStringLiteral(":/test-i18n/kivtambro_test_de.qm")));
+        QCoreApplication::installTranslator(&german);
+        QCOMPARE(TAMBRO_Global::getPartiShortName(1), QStringLiteral("Eigene Dateien"));
+        // A text the catalogue lacks falls back to English.
         QCOMPARE(TAMBRO_Global::getPartiShortName(2), QStringLiteral("Memory Card"));
     }
 };

@@ -167,6 +167,9 @@ QString BwrapCommand::fillScript() const
                      .arg(shellQuote(source), shellQuote(storage.mountPoint),
                           shellQuote(storage.description));
     }
+    // Qt wants a private runtime folder; without one from the host, make one.
+    lines << QStringLiteral("[ -n \"${XDG_RUNTIME_DIR:-}\" ] || { export XDG_RUNTIME_DIR=/tmp/runtime; "
+                            "mkdir -m 0700 \"$XDG_RUNTIME_DIR\"; }");
     lines << QStringLiteral("exec \"$@\"");
     return lines.join(u'\n');
 }

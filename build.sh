@@ -7,7 +7,7 @@ set -eu
 cd "$(dirname "$0")"
 
 packages="cmake ninja-build g++ binutils pkgconf qt6-base-dev qt6-tools-dev qt6-l10n-tools
-          qt6-tools-dev-tools bubblewrap shared-mime-info"
+          qt6-tools-dev-tools bubblewrap shared-mime-info libbenchmark-dev"
 
 install_missing_packages() {
     missing=""

@@ -14,20 +14,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "sorter_units.h"
+
 #include <functional>
 
 using Call = std::function<void()>;
 Q_DECLARE_METATYPE(Call)
-
-// Units as the file manager hands them to the sorter: each code byte-swapped.
-static std::vector<unsigned short> sorterUnits(const QString &text)
-{
-    std::vector<unsigned short> units;
-    for (QChar c : text)
-        units.push_back(ushort((c.unicode() & 0xFF) << 8 | c.unicode() >> 8));
-    units.push_back(0);
-    return units;
-}
 
 static void showNotice(const QString &title, const QString &text)
 {

@@ -3,18 +3,9 @@
 #include <QLocale>
 #include <QTest>
 
-#include <vector>
+#include "sorter_units.h"
 
-// Units as the file manager hands them to the sorter: each code byte-swapped,
-// so that they lie in memory as big-endian UCS-2.
-static std::vector<unsigned short> sorterUnits(const QString &text)
-{
-    std::vector<unsigned short> units;
-    for (QChar c : text)
-        units.push_back(ushort((c.unicode() & 0xFF) << 8 | c.unicode() >> 8));
-    units.push_back(0);
-    return units;
-}
+#include <vector>
 
 static int sign(int value)
 {

@@ -67,9 +67,11 @@ void BwrapCommand::setWorkingDirectory(const QString &path)
 QStringList BwrapCommand::arguments(const QStringList &command) const
 {
     // The sandbox's own root holds only folders made for the mounts: read-only
-    // like the host, so that nothing written can get lost there.
-    return QStringList{QStringLiteral("--die-with-parent")} + hostArguments() + deviceArguments()
-        + storageArguments() + revealArguments()
+    // like the host, so that nothing written can get lost there. Host folders
+    // are revealed before the phone is laid out, so that a revealed folder
+    // such as XDG_RUNTIME_DIR=/run cannot hide the phone's own mounts.
+    return QStringList{QStringLiteral("--die-with-parent")} + hostArguments() + revealArguments()
+        + deviceArguments() + storageArguments()
         + QStringList{QStringLiteral("--remount-ro"), QStringLiteral("/")} + processArguments()
         + QStringList{QStringLiteral("--"), QStringLiteral("/bin/sh"), QStringLiteral("-c"),
                       fillScript(), QStringLiteral("kivsim")}

@@ -1,4 +1,12 @@
 // Reader of ini-style configuration files: [group] headers and key = value lines.
+//
+// The file is read once, when the object is made; a missing file is an empty
+// configuration. What the reader accepts (comments, white space, repeated
+// groups and keys, broken lines) is described in the simulated platform's
+// key-file parser, which every configuration file of the phone goes through.
+// In short: a group's name is the text between '[' and the first ']', exactly
+// as written ("[/voice records]", "[//ZELK_PRELOAD:/pic]", "[/music ]" with its
+// blank); values keep trailing blanks; a repeated key keeps the last value.
 #pragma once
 
 #include "platform_export.h"
@@ -10,12 +18,18 @@
 class KIVPLATFORM_EXPORT ZConfig
 {
 public:
+    // create: make an empty file when none exists.
     ZConfig(const QString &path, bool create);
     ~ZConfig();
 
-    // All entries of one group, ordered by key.
-    QMap<QString, QString> getGroupEntriesKeyList(const QString &group) const;
+    // Fills entries with all entries of the group, ordered by key, and tells
+    // whether the group exists; entries is cleared either way. A group without
+    // entries exists when its header is in the file.
+    bool getGroupEntriesKeyList(const QString &group, QMap<QString, QString> &entries) const;
+    // The value of the key, or defaultValue when the group or key is missing.
     QString readEntry(const QString &group, const QString &key, const QString &defaultValue) const;
+    // The value as an integer, or defaultValue when the group or key is missing
+    // or the value is no number that fits an int.
     int readNumEntry(const QString &group, const QString &key, int defaultValue) const;
 
 private:

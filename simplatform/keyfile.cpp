@@ -19,25 +19,49 @@ bool isAsciiHexDigit(QChar c)
     return isAsciiDigit(c) || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
 }
 
-// Quotes a piece of the input for a warning, shortened so that a huge line
-// does not make a huge message.
-QString quoted(const QString &text)
+// Shortens a piece of the input for a warning, so that a huge line does not
+// make a huge message.
+QString shortened(const QString &text)
 {
     constexpr int maxLength = 40;
-    if (text.size() <= maxLength)
-        return u'"' + text + u'"';
-    return u'"' + text.left(maxLength) + QStringLiteral("\"...");
+    return text.size() <= maxLength ? text : text.left(maxLength) + QStringLiteral("...");
+}
+
+QString quoted(const QString &text)
+{
+    return u'"' + shortened(text) + u'"';
 }
 
 // Configuration files of older tools are often Latin-1: a line that is not
 // valid UTF-8 is read as Latin-1 rather than dropped.
 QString decodeLine(QByteArrayView bytes)
 {
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QStringDecoder utf8(QStringDecoder::Utf8,
+                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     QString text = utf8.decode(bytes);
     if (utf8.hasError())
         return QString::fromLatin1(bytes);
     return text;
+}
+
+bool isBlank(QStringView text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+}
+
+// What is wrong with a line starting with '[' whose first ']' is at close
+// (negative when there is none); empty when it is a good section header.
+QString headerProblem(const QString &text, qsizetype close)
+{
+    if (text.contains(QChar(0)))
+        return QStringLiteral("section header contains a NUL byte");
+    if (close < 0)
+        return QStringLiteral("section header has no closing ']'");
+    if (!isBlank(QStringView(text).sliced(close + 1)))
+        return QStringLiteral("text after the section header's ']'");
+    if (close == 1)
+        return QStringLiteral("empty section name");
+    return QString();
 }
 
 QString leftTrimmed(const QString &text)
@@ -55,67 +79,73 @@ public:
     Parser(KeyFile &result, const QString &origin) : m_result(result), m_origin(origin) {}
 
     void parseLine(QByteArrayView bytes, int number);
+    void finish();
 
 private:
     void parseHeader(const QString &text, int number);
     void parseEntry(const QString &text, int number);
+    void addSection(const QString &name, int number);
     void addEntry(const QString &key, const QString &value, int number);
     void warn(int number, const QString &message);
 
     KeyFile &m_result;
     QString m_origin;
-    QHash<QString, int> m_sectionIndex;
-    QList<QHash<QString, int>> m_keyIndex; // per section: key -> entry index
     int m_current = -1; // no section yet, or the last header was malformed
     bool m_afterBadHeader = false;
+    int m_problems = 0;
+    int m_firstUnlistedLine = 0;
 };
 
 void KeyFile::Parser::parseLine(QByteArrayView bytes, int number)
 {
     if (bytes.endsWith('\r'))
         bytes.chop(1);
-    if (bytes.contains('\0')) {
-        warn(number, QStringLiteral("line contains a NUL byte; ignored"));
-        return;
-    }
+    // Not only at the start of the input: files joined together keep theirs.
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        bytes = bytes.sliced(3);
     const QString text = leftTrimmed(decodeLine(bytes));
     if (text.isEmpty() || text.startsWith(u'#') || text.startsWith(u';'))
         return;
     if (text.startsWith(u'['))
-        parseHeader(text.trimmed(), number);
+        parseHeader(text, number);
     else
         parseEntry(text, number);
 }
 
 void KeyFile::Parser::parseHeader(const QString &text, int number)
 {
-    m_current = -1;
-    m_afterBadHeader = true;
-    if (!text.endsWith(u']')) {
-        warn(number, QStringLiteral("section header does not end in ']'; "
-                                    "entries up to the next section are ignored"));
-        return;
-    }
-    const QString name = text.mid(1, text.size() - 2).trimmed();
-    if (name.isEmpty()) {
-        warn(number, QStringLiteral("empty section name; "
-                                    "entries up to the next section are ignored"));
+    const qsizetype close = text.indexOf(u']');
+    const QString problem = headerProblem(text, close);
+    if (!problem.isEmpty()) {
+        // Whatever section the header meant, its entries must not land in the
+        // one before it.
+        m_current = -1;
+        m_afterBadHeader = true;
+        warn(number, problem + QStringLiteral("; entries up to the next section are ignored"));
         return;
     }
     m_afterBadHeader = false;
-    const auto known = m_sectionIndex.constFind(name);
-    if (known != m_sectionIndex.cend()) {
+    addSection(text.sliced(1, close - 1), number);
+}
+
+void KeyFile::Parser::addSection(const QString &name, int number)
+{
+    const auto known = m_result.m_sectionIndex.constFind(name);
+    if (known != m_result.m_sectionIndex.cend()) {
         m_current = *known;
         return;
     }
     m_current = int(m_result.m_sections.size());
-    m_sectionIndex.insert(name, m_current);
-    m_keyIndex.append(QHash<QString, int>());
+    m_result.m_sectionIndex.insert(name, m_current);
     m_result.m_sections.append(Section{name, number, {}});
 }
 
 void KeyFile::Parser::parseEntry(const QString &text, int number)
 {
+    if (text.contains(QChar(0))) {
+        warn(number, QStringLiteral("line contains a NUL byte; ignored"));
+        return;
+    }
     const qsizetype equals = text.indexOf(u'=');
     if (equals < 0) {
         warn(number, QStringLiteral("expected \"key = value\" or \"[section]\"; ignored"));
@@ -138,16 +168,16 @@ void KeyFile::Parser::parseEntry(const QString &text, int number)
 void KeyFile::Parser::addEntry(const QString &key, const QString &value, int number)
 {
     Section &section = m_result.m_sections[m_current];
-    QHash<QString, int> &index = m_keyIndex[m_current];
-    const auto known = index.constFind(key);
-    if (known == index.cend()) {
-        index.insert(key, int(section.entries.size()));
+    const std::pair<int, QString> indexKey(m_current, key);
+    const auto known = m_result.m_entryIndex.constFind(indexKey);
+    if (known == m_result.m_entryIndex.cend()) {
+        m_result.m_entryIndex.insert(indexKey, int(section.entries.size()));
         section.entries.append(Entry{key, value, number});
         return;
     }
     Entry &entry = section.entries[*known];
     warn(number, QStringLiteral("duplicate key %1 in [%2] replaces the value of line %3")
-                     .arg(quoted(key), section.name)
+                     .arg(quoted(key), shortened(section.name))
                      .arg(entry.line));
     entry.value = value;
     entry.line = number;
@@ -155,7 +185,22 @@ void KeyFile::Parser::addEntry(const QString &key, const QString &value, int num
 
 void KeyFile::Parser::warn(int number, const QString &message)
 {
+    if (++m_problems > maxWarnings) {
+        if (!m_firstUnlistedLine)
+            m_firstUnlistedLine = number;
+        return;
+    }
     m_result.m_warnings.append(QStringLiteral("%1:%2: %3").arg(m_origin).arg(number).arg(message));
+}
+
+void KeyFile::Parser::finish()
+{
+    if (m_problems <= maxWarnings)
+        return;
+    m_result.m_warnings.append(QStringLiteral("%1:%2: %3 more problems from here on not listed")
+                                   .arg(m_origin)
+                                   .arg(m_firstUnlistedLine)
+                                   .arg(m_problems - maxWarnings));
 }
 
 KeyFile KeyFile::parse(const QByteArray &data, const QString &origin)
@@ -163,13 +208,12 @@ KeyFile KeyFile::parse(const QByteArray &data, const QString &origin)
     KeyFile result;
     Parser parser(result, origin);
     QByteArrayView rest(data);
-    if (rest.startsWith("\xEF\xBB\xBF"))
-        rest = rest.sliced(3);
     for (int number = 1; !rest.isEmpty(); ++number) {
         const qsizetype end = rest.indexOf('\n');
         parser.parseLine(end < 0 ? rest : rest.first(end), number);
         rest = end < 0 ? QByteArrayView() : rest.sliced(end + 1);
     }
+    parser.finish();
     return result;
 }
 
@@ -209,9 +253,17 @@ std::optional<qint64> KeyFile::toNumber(const QString &text)
 
 const KeyFile::Section *KeyFile::section(const QString &name) const
 {
-    const auto found = std::find_if(m_sections.cbegin(), m_sections.cend(),
-                                    [&](const Section &s) { return s.name == name; });
-    return found == m_sections.cend() ? nullptr : &*found;
+    const auto found = m_sectionIndex.constFind(name);
+    return found == m_sectionIndex.cend() ? nullptr : &m_sections[*found];
+}
+
+const KeyFile::Entry *KeyFile::entry(const QString &sectionName, const QString &key) const
+{
+    const auto section = m_sectionIndex.constFind(sectionName);
+    if (section == m_sectionIndex.cend())
+        return nullptr;
+    const auto found = m_entryIndex.constFind({*section, key});
+    return found == m_entryIndex.cend() ? nullptr : &m_sections[*section].entries[*found];
 }
 
 QStringList KeyFile::keys(const QString &sectionName) const
@@ -223,17 +275,18 @@ QStringList KeyFile::keys(const QString &sectionName) const
 QString KeyFile::value(const QString &sectionName, const QString &key,
                        const QString &fallback) const
 {
-    const Section *found = section(sectionName);
-    const Entry *entry = found ? found->find(key) : nullptr;
-    return entry ? entry->value : fallback;
+    const Entry *found = entry(sectionName, key);
+    return found ? found->value : fallback;
 }
 
 QString KeyFile::valueIgnoringCase(const QString &sectionName, const QString &key,
                                    const QString &fallback) const
 {
+    if (const Entry *exact = entry(sectionName, key))
+        return exact->value;
     const Section *found = section(sectionName);
-    const Entry *entry = found ? found->findIgnoringCase(key) : nullptr;
-    return entry ? entry->value : fallback;
+    const Entry *loose = found ? found->findIgnoringCase(key) : nullptr;
+    return loose ? loose->value : fallback;
 }
 
 const KeyFile::Entry *KeyFile::Section::find(const QString &key) const

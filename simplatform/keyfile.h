@@ -3,24 +3,42 @@
 // Used for the simulated phone's device file, for configuration files read
 // through ZConfig and by the kivsim launcher. The syntax is deliberately small:
 //
-//   - a UTF-8 byte order mark at the start is skipped; lines end in LF or CR-LF;
+//   - any bytes are accepted; a UTF-8 byte order mark starting the input (or
+//     any line, as where files were joined) is skipped;
+//   - a line ends in LF, CR LF or the end of the input; one CR just before
+//     the line's end is dropped, any other CR is part of the line (a CR alone
+//     does not end a line);
+//   - a line that is not valid UTF-8 is read as Latin-1 (older tools wrote
+//     such files);
 //   - blank lines and lines whose first non-blank character is '#' or ';' are
 //     comments (there are no comments after a value);
-//   - "[name]" starts a section; a repeated section continues the first one;
+//   - "[name]" starts a section. The name is everything between '[' and the
+//     first ']', exactly as written: it may hold blanks, '/', ':' or '[', and
+//     "[/music ]" names "/music ". Blanks may precede '[' and follow ']'; any
+//     other text after ']', a missing ']', an empty name or a NUL byte makes
+//     the header malformed, and the entries up to the next header are ignored;
+//   - a repeated section silently continues the first one, in its place;
 //   - "key = value": blanks around the key and after '=' are dropped, but the
 //     value keeps trailing blanks (a folder name may end in one); no quoting;
-//   - a repeated key replaces the earlier value, keeping the key's first place.
+//     keys are case-sensitive;
+//   - a repeated key replaces the earlier value, keeping the key's first place,
+//     with a warning;
+//   - an entry line holding a NUL byte is ignored, with a warning.
 //
 // Anything else is a malformed line: it is skipped and reported in warnings()
-// as "origin:line: message". Nothing in the input makes the parser fail.
+// as "origin:line: message". Nothing in the input makes the parser fail, and
+// both parsing and look-ups stay linear however many sections or keys a file
+// holds.
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
+#include <utility>
 
 class KeyFile
 {
@@ -43,6 +61,10 @@ public:
         const Entry *findIgnoringCase(const QString &key) const;
         QStringList keys() const;
     };
+
+    // At most this many problems are listed in warnings(), then one line
+    // counting the rest, so that a binary file does not flood the log.
+    static constexpr int maxWarnings = 100;
 
     // origin names the input in warnings, normally the file's path.
     static KeyFile parse(const QByteArray &data, const QString &origin);
@@ -69,6 +91,13 @@ public:
 private:
     class Parser;
 
+    const Entry *entry(const QString &section, const QString &key) const;
+
     QList<Section> m_sections;
+    // Kept by the parser so that look-ups do not scan the file's sections.
+    QHash<QString, int> m_sectionIndex; // name -> place in m_sections
+    // One index for all sections: a hash per section would cost far more than
+    // a tiny section's own entries.
+    QHash<std::pair<int, QString>, int> m_entryIndex; // (section, key) -> place in entries
     QStringList m_warnings;
 };

@@ -26,14 +26,15 @@ ZConfig::ZConfig(const QString &path, bool create) : d(std::make_unique<Data>())
 
 ZConfig::~ZConfig() = default;
 
-QMap<QString, QString> ZConfig::getGroupEntriesKeyList(const QString &group) const
+bool ZConfig::getGroupEntriesKeyList(const QString &group, QMap<QString, QString> &entries) const
 {
-    QMap<QString, QString> entries;
-    if (const KeyFile::Section *section = d->file.section(group)) {
-        for (const KeyFile::Entry &entry : section->entries)
-            entries.insert(entry.key, entry.value);
-    }
-    return entries;
+    entries.clear();
+    const KeyFile::Section *section = d->file.section(group);
+    if (!section)
+        return false;
+    for (const KeyFile::Entry &entry : section->entries)
+        entries.insert(entry.key, entry.value);
+    return true;
 }
 
 QString ZConfig::readEntry(const QString &group, const QString &key,

@@ -35,6 +35,7 @@ private slots:
     void parse_data();
     void parse();
     void warningsNameOriginAndStayShort();
+    void warningsStopAtALimit();
     void toNumber_data();
     void toNumber();
     void lookupPrefersExactKey();
@@ -49,6 +50,8 @@ void TestKeyFile::parse_data()
 
     QTest::newRow("plain") << QByteArray("[a]\nk = v\n[b]\nx=y") << "[a] k=v|[b] x=y" << QList<int>{};
     QTest::newRow("crlf endings") << QByteArray("[a]\r\nk = v\r\n") << "[a] k=v" << QList<int>{};
+    QTest::newRow("only one CR dropped, inner CR kept")
+        << QByteArray("[a]\nk = v\r\r\nm=x\ry") << "[a] k=v\r;m=x\ry" << QList<int>{};
     QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF[a]\nk=v") << "[a] k=v" << QList<int>{};
     QTest::newRow("blanks and comments")
         << QByteArray("\n  # c\n; c\n[a]\n\n   ;k=v\n\t\nk=v\n") << "[a] k=v" << QList<int>{};
@@ -64,9 +67,17 @@ void TestKeyFile::parse_data()
     QTest::newRow("entry before any section") << QByteArray("k=v\n[a]\nm=w") << "[a] m=w" << QList<int>{1};
     QTest::newRow("unterminated header drops its entries")
         << QByteArray("[a]\nk=v\n[b\nx=1\ny=2\n[c]\nz=3") << "[a] k=v|[c] z=3" << QList<int>{3};
+    QTest::newRow("section name kept as written")
+        << QByteArray("\t [ /music ] \t\nk=v\n[/voice records]\nm=w")
+        << "[ /music ] k=v|[/voice records] m=w" << QList<int>{};
+    QTest::newRow("name ends at the first closing bracket")
+        << QByteArray("[a[b]\nk=v\n[c]d]\nm=w") << "[a[b] k=v" << QList<int>{3};
     QTest::newRow("text after the closing bracket")
         << QByteArray("[a] trailing\nk=v") << "" << QList<int>{1};
-    QTest::newRow("empty section name") << QByteArray("[ ]\nk=v") << "" << QList<int>{1};
+    QTest::newRow("empty section name") << QByteArray("[]\nk=v") << "" << QList<int>{1};
+    QTest::newRow("blank section name") << QByteArray("[ ]\nk=v") << "[ ] k=v" << QList<int>{};
+    QTest::newRow("bad header keeps its entries out of the section before")
+        << QByteArray("[a]\nk=1\n[b] x\nm=2\n[c\0]\nn=3", 26) << "[a] k=1" << QList<int>{3, 5};
     QTest::newRow("duplicate key: last value, first place")
         << QByteArray("[a]\nk=1\nm=2\nk=3") << "[a] k=3;m=2" << QList<int>{4};
     QTest::newRow("repeated section continues the first")
@@ -104,6 +115,18 @@ void TestKeyFile::warningsNameOriginAndStayShort()
         QVERIFY2(warning.startsWith(QLatin1String("/tmp/dev.ini:")), qPrintable(warning));
         QVERIFY2(warning.size() < 200, qPrintable(warning.left(300)));
     }
+}
+
+void TestKeyFile::warningsStopAtALimit()
+{
+    const int problems = KeyFile::maxWarnings + 50;
+    const KeyFile file = KeyFile::parse("[a]\n" + QByteArray("x\n").repeated(problems) + "k=v",
+                                        QStringLiteral("dev.ini"));
+    QCOMPARE(file.value("a", "k"), QStringLiteral("v"));
+    QCOMPARE(file.warnings().size(), KeyFile::maxWarnings + 1);
+    QCOMPARE(file.warnings().constLast(),
+             QStringLiteral("dev.ini:%1: 50 more problems from here on not listed")
+                 .arg(KeyFile::maxWarnings + 2));
 }
 
 void TestKeyFile::toNumber_data()

@@ -1,3 +1,0 @@
-#include "TAMBRO_FixedFolder.h"
-
-QString TAMBRO_FixedFolder::m_sFMRootPath;

@@ -15,6 +15,15 @@ QString translate(const char *context, const char *resourceId, const char *engli
     return text;
 }
 
+QString translateLatin1(const QString &text, const QString &comment)
+{
+    // The catalogue's source texts are UTF-8; characters beyond Latin-1 become
+    // '?' on the way, as they would in the file.
+    const QByteArray source = QString::fromLatin1(text.toLatin1()).toUtf8();
+    const QByteArray disambiguation = QString::fromLatin1(comment.toLatin1()).toUtf8();
+    return QCoreApplication::translate("QObject", source.constData(), disambiguation.constData());
+}
+
 } // namespace Tambro
 
 namespace {

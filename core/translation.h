@@ -9,4 +9,9 @@ namespace Tambro {
 // The catalogue's text for the id, or the English text when no catalogue has one.
 QString translate(const char *context, const char *resourceId, const char *english);
 
+// Texts of the phone's configuration files, Latin-1 like the files: the
+// catalogue's text for the text and comment in the general context, else the
+// text itself, limited to Latin-1.
+QString translateLatin1(const QString &text, const QString &comment);
+
 } // namespace Tambro

@@ -1,0 +1,63 @@
+// The root of the fixed folder tree, and paths relative to it.
+#include "folder_structure.h"
+
+#include "TAMBRO_FixedFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <unistd.h>
+
+namespace {
+
+// Owner and group of the phone's user files, so that every application may
+// write into the fixed folders whichever process created them.
+constexpr uid_t FolderOwner = 2000;
+constexpr gid_t FolderGroup = 233;
+
+void makeFolder(const QString &path)
+{
+    if (QFileInfo(path).isDir())
+        return;
+    // Only a folder made here is handed over: a file of that name keeps its owner.
+    if (QDir().mkdir(path))
+        (void)::chown(QFile::encodeName(path).constData(), FolderOwner, FolderGroup);
+}
+
+} // namespace
+
+namespace Tambro {
+
+QString rootPathFromEnvironment()
+{
+    QString root = qEnvironmentVariable("TAMBRO_DATA_PATH").trimmed();
+    while (root.endsWith(u'/'))
+        root.chop(1);
+    return root;
+}
+
+QString absoluteFolderPath(const QString &relativePath)
+{
+    return TAMBRO_FixedFolder::m_sFMRootPath + relativePath;
+}
+
+QString relativeFolderPath(const QString &absolutePath)
+{
+    const QString &root = TAMBRO_FixedFolder::m_sFMRootPath;
+    if (absolutePath.indexOf(root) < 0)
+        return QString();
+    return absolutePath.mid(root.size());
+}
+
+void makeFolderPath(const QString &path)
+{
+    // The root's own components are taken as given; the root itself is made
+    // when the first "/" after it is reached.
+    for (qsizetype slash = path.indexOf(u'/', TAMBRO_FixedFolder::m_sFMRootPath.size()); slash >= 0;
+         slash = path.indexOf(u'/', slash + 1))
+        makeFolder(path.left(slash));
+    makeFolder(path);
+}
+
+} // namespace Tambro

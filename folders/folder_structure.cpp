@@ -1,0 +1,45 @@
+// Opening the folder structure file once, and creating the key words' folders.
+#include "folder_structure.h"
+
+#include "folder_structure_file.h"
+
+#include "TAMBRO_FixedFolder.h"
+
+#include <ZConfig.h>
+
+#include <QMap>
+
+namespace {
+
+bool initialized = false;
+// Kept for the life of the process: queries read it until exit.
+ZConfig *configuration = nullptr;
+
+} // namespace
+
+QString TAMBRO_FixedFolder::m_sFMRootPath = Tambro::rootPathFromEnvironment();
+
+void TAMBRO_FixedFolder::initialize()
+{
+    // Set first, so that a failure below is never retried.
+    if (initialized)
+        return;
+    initialized = true;
+    if (!configuration)
+        configuration = new ZConfig(Tambro::folderStructureFilePath(), false);
+
+    QMap<QString, QString> keyWords;
+    configuration->getGroupEntriesKeyList(QLatin1String(Tambro::KeyWordGroup), keyWords);
+    for (const QString &relativePath : std::as_const(keyWords))
+        Tambro::makeFolderPath(Tambro::absoluteFolderPath(relativePath));
+}
+
+namespace Tambro {
+
+const ZConfig &folderStructure()
+{
+    TAMBRO_FixedFolder::initialize();
+    return *configuration;
+}
+
+} // namespace Tambro

@@ -1,0 +1,33 @@
+// The folder structure file and the paths of the fixed folder tree: the
+// process-wide state behind TAMBRO_FixedFolder.
+#pragma once
+
+#include <QString>
+
+class ZConfig;
+
+namespace Tambro {
+
+// Group names of the folder structure file.
+inline constexpr char KeyWordGroup[] = "TAMBRO_KEYWORD";
+inline constexpr char PseudoKeyWordGroup[] = "TAMBRO_PSEUDO_KEYWORD";
+inline constexpr char RootGroup[] = "TOPLEVEL";
+
+// TAMBRO_DATA_PATH without surrounding white space and trailing slashes;
+// null when unset.
+QString rootPathFromEnvironment();
+
+// The opened folder structure file, after initialize() has run once.
+const ZConfig &folderStructure();
+
+// The root followed by the relative path exactly as given: blanks that
+// surround a value in the file are part of the folder's name.
+QString absoluteFolderPath(const QString &relativePath);
+// The path without its first root-length characters when the root occurs
+// in it anywhere (not necessarily at its start); null otherwise.
+QString relativeFolderPath(const QString &absolutePath);
+// Creates every missing folder of the path from the root on, each handed to
+// the phone's file owner. Failures are silently left as they are.
+void makeFolderPath(const QString &path);
+
+} // namespace Tambro

@@ -1,0 +1,21 @@
+// Where the phone keeps its folder structure file. Shared with the tools,
+// which read the same file to show the structure it describes.
+#pragma once
+
+#include <QFile>
+#include <QString>
+
+namespace Tambro {
+
+// A device-specific file under the preload root takes precedence over the
+// system's; the system's is used whether it exists or not, so that a phone
+// without either gets an empty structure.
+inline QString folderStructureFilePath()
+{
+    const QString deviceFile = QStringLiteral("/usr/data_resource/tambro/kiv_tambrostruct.cfg");
+    if (QFile::exists(deviceFile))
+        return deviceFile;
+    return QStringLiteral("/usr/SYSqtapp/tambro/kiv_tambrostruct.cfg");
+}
+
+} // namespace Tambro

@@ -1,0 +1,207 @@
+// What the library tells about preloaded content and single folders, on a
+// phone whose folder structure file the tests wrote, with a test catalogue
+// standing in for the user's language.
+#include <TAMBRO_FixedFolder.h>
+
+#include <QTest>
+#include <QTranslator>
+
+namespace {
+
+const QString Root = QStringLiteral("/kivlocal/download/tambro/root");
+const QString Untouched = QStringLiteral("untouched");
+
+} // namespace
+
+class TestFolderLookup : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_catalogue.load(QStringLiteral(":/test-i18n/folders_test_de.qm")));
+        QCoreApplication::installTranslator(&m_catalogue);
+        QCOMPARE(TAMBRO_FixedFolder::m_sFMRootPath, Root);
+    }
+
+    void preloadFolder_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("isPreload");
+        QTest::addColumn<bool>("isRoot");
+
+        QTest::newRow("the root is no preload folder") << "/usr/data_resource" << false << true;
+        QTest::newRow("a folder under it") << "/usr/data_resource/a" << true << false;
+        QTest::newRow("the root with a slash") << "/usr/data_resource/" << true << false;
+        QTest::newRow("merely the root's characters first") << "/usr/data_resourcex" << true << false;
+        QTest::newRow("case counts") << "/usr/Data_resource/a" << false << false;
+        QTest::newRow("root further in") << "/x/usr/data_resource/a" << false << false;
+        QTest::newRow("tag form is no real path") << "//ZELK_PRELOAD:/a" << false << false;
+        QTest::newRow("empty") << "" << false << false;
+    }
+
+    void preloadFolder()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, isPreload);
+        QFETCH(bool, isRoot);
+        QCOMPARE(TAMBRO_FixedFolder::isPreloadFolder(path), isPreload);
+        QCOMPARE(TAMBRO_FixedFolder::isPreloadFolderRoot(path), isRoot);
+    }
+
+    void preloadTag_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("hasTag");
+
+        QTest::newRow("at the start") << "//ZELK_PRELOAD:/pic" << true;
+        QTest::newRow("in the middle") << "/in//ZELK_PRELOAD:/middle" << true;
+        QTest::newRow("alone") << "//ZELK_PRELOAD:" << true;
+        QTest::newRow("lower case") << "//zelk_preload:/pic" << false;
+        QTest::newRow("one slash short") << "/ZELK_PRELOAD:/pic" << false;
+        QTest::newRow("without colon") << "//ZELK_PRELOAD/pic" << false;
+        QTest::newRow("real path") << "/usr/data_resource/pic" << false;
+    }
+
+    void preloadTag()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, hasTag);
+        QCOMPARE(TAMBRO_FixedFolder::hasPreloadFolderTag(text), hasTag);
+    }
+
+    void preloadParent_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("found");
+        QTest::addColumn<QString>("parentPath");
+        QTest::addColumn<QString>("parentName");
+
+        QTest::newRow("top level is the user's root")
+            << "/usr/data_resource/tones" << true << Root << "Root Title";
+        QTest::newRow("relative parent under the root, translated")
+            << "/usr/data_resource/pics" << true << Root + "/alpha" << "Alpha-Ordner";
+        QTest::newRow("tagged parent is preloaded too")
+            << "/usr/data_resource/nested/deeper" << true << "/usr/data_resource/nested" << "Nested";
+        QTest::newRow("parent without a name stays unnamed")
+            << "/usr/data_resource/unnamed" << true << Root + "/a/b/c" << "";
+        QTest::newRow("tag in the middle is replaced by position")
+            << "/usr/data_resource/odd" << true << "/usr/data_resourceAD:/middle" << "";
+        QTest::newRow("no parent_path empties the path only")
+            << "/usr/data_resource/orphan" << false << "" << Untouched;
+        QTest::newRow("no group at all")
+            << "/usr/data_resource/unknown" << false << "" << Untouched;
+        QTest::newRow("the preload root has none")
+            << "/usr/data_resource" << false << Untouched << Untouched;
+        QTest::newRow("a user's folder has none")
+            << Root + "/alpha" << false << Untouched << Untouched;
+    }
+
+    void preloadParent()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, found);
+        QFETCH(QString, parentPath);
+        QFETCH(QString, parentName);
+
+        QString actualPath = Untouched;
+        QString actualName = Untouched;
+        QCOMPARE(TAMBRO_FixedFolder::getPreloadFolderParent(path, actualPath, actualName), found);
+        QCOMPARE(actualPath, parentPath);
+        QCOMPARE(actualName, parentName);
+    }
+
+    void preloadFileName_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("keepExtension");
+        QTest::addColumn<bool>("named");
+        QTest::addColumn<QString>("name");
+
+        const QString tones = QStringLiteral("/usr/data_resource/tones/");
+        QTest::newRow("translated, with extension") << tones + "Beep.mid" << true << true << "Piep.mid";
+        QTest::newRow("translated, without") << tones + "Beep.mid" << false << true << "Piep";
+        QTest::newRow("untranslated keeps its name") << tones + "Tune.mid" << true << true << "Tune.mid";
+        QTest::newRow("only the last dot ends the base") << tones + "Beep.v2.mid" << true << true << "Beep.v2.mid";
+        QTest::newRow("no extension, nothing appended") << tones + "README" << true << true << "README";
+        QTest::newRow("dot file is all extension") << tones + ".hidden" << true << true << ".hidden";
+        QTest::newRow("dot file without extension") << tones + ".hidden" << false << true << "";
+        QTest::newRow("Cyrillic name read as UTF-8") << tones + "Мелодия.mid" << true << true << "Мелодия.mid";
+        QTest::newRow("Latin-1 name read as UTF-8") << tones + "Café.mid" << true << true << "Café.mid";
+        QTest::newRow("translation beginning with the name is decoded again")
+            << tones + "Ring.mid" << true << true << QStringLiteral(u"Ring\uFFFD.mid");
+        QTest::newRow("a file just past the root's characters")
+            << "/usr/data_resource.mid" << true << true << "data_resource.mid";
+        QTest::newRow("outside the preloaded content") << Root + "/Beep.mid" << true << false << Untouched;
+        QTest::newRow("the preload root itself") << "/usr/data_resource" << true << false << Untouched;
+        QTest::newRow("slash only at the start") << "/Beep.mid" << true << false << Untouched;
+        QTest::newRow("no slash") << "Beep.mid" << true << false << Untouched;
+    }
+
+    void preloadFileName()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, keepExtension);
+        QFETCH(bool, named);
+        QFETCH(QString, name);
+
+        QString actual = Untouched;
+        QCOMPARE(TAMBRO_FixedFolder::trPreloadFile(path, actual, keepExtension), named);
+        QCOMPARE(actual, name);
+    }
+
+    void folder_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("absolute");
+        QTest::addColumn<bool>("filled");
+        QTest::addColumn<QStringList>("iconsAndName");
+
+        const QString big = QStringLiteral("fm_folder_thb.gif");
+        const QString small = QStringLiteral("fm_folder_small.gif");
+        QTest::newRow("root is the top level") << Root << true << true << QStringList{big, small, "Root Title"};
+        QTest::newRow("root even when not absolute") << Root << false << true << QStringList{big, small, "Root Title"};
+        QTest::newRow("icons and translated name")
+            << Root + "/alpha" << true << true << QStringList{"alpha_thb.gif", "alpha_small.gif", "Alpha-Ordner"};
+        QTest::newRow("a group name as it stands")
+            << "/alpha" << false << true << QStringList{"alpha_thb.gif", "alpha_small.gif", "Alpha-Ordner"};
+        QTest::newRow("empty icon entry gives the generic icon")
+            << Root + "/zeta" << true << true << QStringList{big, small, "Zeta Folder"};
+        QTest::newRow("no name gives the last component")
+            << Root + "/a/b/c" << true << true << QStringList{big, small, "c"};
+        QTest::newRow("unknown folder") << Root + "/unknown/x" << true << true << QStringList{big, small, "x"};
+        QTest::newRow("preloaded folder by its tag form")
+            << "/usr/data_resource/tones" << false << true << QStringList{"tones_thb.gif", small, "Töne"};
+        QTest::newRow("root found further in cuts the first characters")
+            << "/x" + Root << true << true << QStringList{big, small, "ot"};
+        QTest::newRow("preload root is outside the root") << "/usr/data_resource" << true << false << QStringList();
+        QTest::newRow("a path outside the root") << "/elsewhere/x" << true << false << QStringList();
+    }
+
+    void folder()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, absolute);
+        QFETCH(bool, filled);
+        QFETCH(QStringList, iconsAndName);
+
+        FixedFolder record{Untouched, Untouched, Untouched, Untouched};
+        QCOMPARE(TAMBRO_FixedFolder::getFolder(path, record, absolute), filled);
+        if (!filled)
+            iconsAndName = QStringList{Untouched, Untouched, Untouched};
+        QCOMPARE((QStringList{record.bigIcon, record.smallIcon, record.displayName}), iconsAndName);
+        QCOMPARE(record.absolutePath, Untouched);
+    }
+
+    void defaultFolderIsTheDefaultKeyWord()
+    {
+        QCOMPARE(TAMBRO_FixedFolder::getDefaultFolder(), Root + "/others");
+    }
+
+private:
+    QTranslator m_catalogue;
+};
+
+QTEST_GUILESS_MAIN(TestFolderLookup)
+#include "tst_folder_lookup.moc"

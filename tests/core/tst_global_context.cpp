@@ -163,9 +163,16 @@ private Q_SLOTS:
 
     void namesAreEnglishWithoutACatalogueForTheLanguage()
     {
-        // CTest runs this one with a German locale, for which no catalogue exists.
+        // CTest runs this one with a French locale, for which no catalogue exists.
         QCOMPARE(TAMBRO_Global::getPartiShortName(1), QStringLiteral("My Files"));
         QCOMPARE(TAMBRO_Global::getPartiShortName(2), QStringLiteral("Memory Card"));
+    }
+
+    void userLanguageCatalogueIsLoadedAtStartup()
+    {
+        // CTest runs this one with a German locale.
+        QCOMPARE(TAMBRO_Global::getPartiShortName(1), QStringLiteral("Eigene Dateien"));
+        QCOMPARE(TAMBRO_Global::getPartiShortName(2), QStringLiteral("Speicherkarte"));
     }
 
     void englishCatalogueIsLoadedAtStartup()

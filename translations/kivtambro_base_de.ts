@@ -1,0 +1,122 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>TAMBRO_Global</name>
+    <message>
+        <source>TXT_RID_AIA_MY_FILES</source>
+        <comment>My Files</comment>
+        <translation>Eigene Dateien</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MEMORY_CARD</source>
+        <comment>Memory Card</comment>
+        <translation>Speicherkarte</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MEGASIM</source>
+        <comment>MegaSIM</comment>
+        <translation>MegaSIM</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <!-- Display names of the fixed folders: "res_str" of the folder structure file, "dis_str" as comment. -->
+    <message>
+        <source>My Files</source>
+        <comment>root folder</comment>
+        <translation>Eigene Dateien</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <comment>folder name</comment>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <comment>folder name</comment>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <comment>folder name</comment>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <comment>folder name</comment>
+        <translation>Videos</translation>
+    </message>
+    <message>
+        <source>Voice Records</source>
+        <comment>folder name</comment>
+        <translation>Sprachaufnahmen</translation>
+    </message>
+    <message>
+        <source>Ring Tones</source>
+        <comment>folder name</comment>
+        <translation>Klingeltöne</translation>
+    </message>
+    <message>
+        <source>My Documents</source>
+        <comment>folder name</comment>
+        <translation>Eigene Dokumente</translation>
+    </message>
+    <message>
+        <source>Games &amp; Apps</source>
+        <comment>folder name</comment>
+        <translation>Spiele &amp; Apps</translation>
+    </message>
+    <message>
+        <source>Other Files</source>
+        <comment>folder name</comment>
+        <translation>Sonstige Dateien</translation>
+    </message>
+    <message>
+        <source>Themes</source>
+        <comment>folder name</comment>
+        <translation>Designs</translation>
+    </message>
+    <message>
+        <source>Preloaded</source>
+        <comment>preload root</comment>
+        <translation>Vorinstalliert</translation>
+    </message>
+    <message>
+        <source>Preloaded Pictures</source>
+        <comment>folder name</comment>
+        <translation>Vorinstallierte Bilder</translation>
+    </message>
+    <message>
+        <source>Preloaded Ring Tones</source>
+        <comment>folder name</comment>
+        <translation>Vorinstallierte Klingeltöne</translation>
+    </message>
+    <message>
+        <source>Preloaded Videos</source>
+        <comment>folder name</comment>
+        <translation>Vorinstallierte Videos</translation>
+    </message>
+    <!-- Preloaded files, by their names without extension. -->
+    <message>
+        <source>frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>wallpaper</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>Klassisch</translation>
+    </message>
+    <message>
+        <source>Tick Tock</source>
+        <translation>Tick Tack</translation>
+    </message>
+</context>
+</TS>

@@ -1,13 +1,15 @@
 #!/bin/sh
 # Sets up a fresh Debian 12 machine and builds libkivtambro-base.
 #
-#   ./build.sh demo   build, then show the sample phone's storage with tambro
-#   ./build.sh test   build, then run every test, also under ASan and UBSan
+#   ./build.sh demo   build, then show the sample phone's storage and folders with tambro
+#   ./build.sh test   build, then run every test, also under ASan and UBSan,
+#                     then fuzz the file readers with clang's libFuzzer
 set -eu
 cd "$(dirname "$0")"
 
 packages="cmake ninja-build g++ binutils pkgconf qt6-base-dev qt6-tools-dev qt6-l10n-tools
-          qt6-tools-dev-tools bubblewrap shared-mime-info libbenchmark-dev"
+          qt6-tools-dev-tools bubblewrap shared-mime-info libbenchmark-dev
+          clang libclang-rt-14-dev"
 
 install_missing_packages() {
     missing=""
@@ -36,11 +38,39 @@ run_tests() {
     ctest --test-dir "$dir" --output-on-failure --parallel "$(nproc)"
 }
 
+# Only the fuzz targets are built with clang: the rest is covered above.
+build_fuzz_targets() {
+    CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja >/dev/null
+    cmake --build build-fuzz --target zconfig_fuzz keyfile_fuzz mount_table_fuzz
+}
+
+# fuzz TARGET LIBFUZZER-OPTION...: fuzzes on a scratch copy of the target's
+# seed corpus, so that the inputs it adds stay out of the source tree. The
+# chatty output goes to a log, shown when the fuzzer finds something.
+fuzz() {
+    target=$1
+    shift
+    corpus=build-fuzz/corpus/${target%_fuzz}
+    log=build-fuzz/$target.log
+    rm -rf "$corpus"
+    mkdir -p "$corpus" build-fuzz/findings
+    cp -R "fuzz/corpus/${target%_fuzz}/." "$corpus"
+    if ! UBSAN_OPTIONS=print_stacktrace=1 build-fuzz/fuzz/"$target" "$@" -timeout=10 \
+            -artifact_prefix=build-fuzz/findings/ "$corpus" >"$log" 2>&1; then
+        tail -n 60 "$log"
+        echo "$target found a problem: the input is in build-fuzz/findings/, the log in $log" >&2
+        return 1
+    fi
+    echo "$target: $(grep '^Done' "$log")"
+}
+
 case "${1:-}" in
 demo)
     install_missing_packages
     build build
     build/tools/kivsim/kivsim -- build/tools/tambro/tambro storage
+    echo
+    build/tools/kivsim/kivsim -- build/tools/tambro/tambro folders
     ;;
 test)
     install_missing_packages
@@ -50,6 +80,10 @@ test)
     ASAN_OPTIONS=detect_leaks=1:abort_on_error=0 \
     UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
         run_tests build-sanitize
+    build_fuzz_targets
+    fuzz zconfig_fuzz -max_total_time=60
+    fuzz keyfile_fuzz -max_total_time=15
+    fuzz mount_table_fuzz -runs=0
     ;;
 *)
     echo "usage: $0 demo|test" >&2

@@ -14,9 +14,13 @@ struct Run
     QString err;
 };
 
-Run tambro(const QStringList &arguments)
+Run tambro(const QStringList &arguments, const QString &language = QStringLiteral("C.UTF-8"))
 {
     QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LANG"), language);
+    environment.insert(QStringLiteral("LC_ALL"), language);
+    process.setProcessEnvironment(environment);
     process.start(QStringLiteral(KIVSIM_PATH),
                   QStringList{QStringLiteral("--device"), QStringLiteral(SAMPLE_DEVICE),
                               QStringLiteral("--"), QStringLiteral(TAMBRO_PATH)}
@@ -25,6 +29,23 @@ Run tambro(const QStringList &arguments)
         qFatal("tambro did not finish");
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
+}
+
+QJsonObject foldersJson(const QString &language = QStringLiteral("C.UTF-8"))
+{
+    const Run run = tambro({QStringLiteral("folders"), QStringLiteral("--json")}, language);
+    if (run.exitCode != 0)
+        qFatal("tambro folders failed: %s", qPrintable(run.err));
+    return QJsonDocument::fromJson(run.out.toUtf8()).object();
+}
+
+QJsonObject entryWith(const QJsonArray &entries, const QString &field, const QString &value)
+{
+    for (const QJsonValue &entry : entries) {
+        if (entry.toObject()[field].toString() == value)
+            return entry.toObject();
+    }
+    return {};
 }
 
 } // namespace
@@ -68,6 +89,66 @@ private Q_SLOTS:
         QCOMPARE(card[QStringLiteral("writeProtected")].toBool(), false);
     }
 
+    void foldersShowKeyWordsAndTheirState()
+    {
+        const QJsonObject structure = foldersJson();
+        const QString root = QStringLiteral("/kivlocal/download/tambro");
+        QCOMPARE(structure[QStringLiteral("root")].toString(), root);
+        QCOMPARE(structure[QStringLiteral("defaultFolder")].toString(), root + "/others");
+        const QJsonArray keyWords = structure[QStringLiteral("keyWords")].toArray();
+        const QJsonObject image = entryWith(keyWords, QStringLiteral("key"), QStringLiteral("image"));
+        QCOMPARE(image[QStringLiteral("path")].toString(), root + "/picture");
+        QCOMPARE(image[QStringLiteral("onDisk")].toString(), QStringLiteral("yes"));
+        QCOMPARE(image[QStringLiteral("name")].toString(), QStringLiteral("Pictures"));
+        QCOMPARE(image[QStringLiteral("smallIcon")].toString(), QStringLiteral("fm_pict_folder_small.gif"));
+        // The sample phone has no themes folder: the library makes it.
+        const QJsonObject theme = entryWith(keyWords, QStringLiteral("key"), QStringLiteral("theme"));
+        QCOMPARE(theme[QStringLiteral("onDisk")].toString(), QStringLiteral("created"));
+        // Pseudo key words' folders are never made.
+        const QJsonObject camera = entryWith(keyWords, QStringLiteral("key"), QStringLiteral("camera"));
+        QCOMPARE(camera[QStringLiteral("kind")].toString(), QStringLiteral("pseudo"));
+        QCOMPARE(camera[QStringLiteral("onDisk")].toString(), QStringLiteral("missing"));
+    }
+
+    void foldersShowPreloadedFoldersWithParents()
+    {
+        const QJsonArray preloaded = foldersJson()[QStringLiteral("preloadedFolders")].toArray();
+        const QJsonObject pictures =
+            entryWith(preloaded, QStringLiteral("group"), QStringLiteral("//ZELK_PRELOAD:/pic"));
+        QCOMPARE(pictures[QStringLiteral("path")].toString(), QStringLiteral("/usr/data_resource/pic"));
+        QCOMPARE(pictures[QStringLiteral("parentPath")].toString(),
+                 QStringLiteral("/kivlocal/download/tambro/picture"));
+        QCOMPARE(pictures[QStringLiteral("parentName")].toString(), QStringLiteral("Pictures"));
+        QCOMPARE(pictures[QStringLiteral("files")].toArray().size(), 2);
+        const QJsonObject videos =
+            entryWith(preloaded, QStringLiteral("group"), QStringLiteral("//ZELK_PRELOAD:/video"));
+        QCOMPARE(videos[QStringLiteral("onDisk")].toString(), QStringLiteral("missing"));
+    }
+
+    void foldersInGermanShowGermanNames()
+    {
+        const QJsonObject structure = foldersJson(QStringLiteral("de_DE.UTF-8"));
+        const QJsonObject image = entryWith(structure[QStringLiteral("keyWords")].toArray(),
+                                            QStringLiteral("key"), QStringLiteral("image"));
+        QCOMPARE(image[QStringLiteral("name")].toString(), QStringLiteral("Bilder"));
+        const QJsonObject pictures = entryWith(structure[QStringLiteral("preloadedFolders")].toArray(),
+                                               QStringLiteral("group"), QStringLiteral("//ZELK_PRELOAD:/pic"));
+        QCOMPARE(pictures[QStringLiteral("name")].toString(), QStringLiteral("Vorinstallierte Bilder"));
+        QCOMPARE(pictures[QStringLiteral("parentName")].toString(), QStringLiteral("Bilder"));
+        const QJsonObject frame = entryWith(pictures[QStringLiteral("files")].toArray(),
+                                            QStringLiteral("path"), QStringLiteral("/usr/data_resource/pic/frame.gif"));
+        QCOMPARE(frame[QStringLiteral("name")].toString(), QStringLiteral("Rahmen.gif"));
+    }
+
+    void foldersTableHasEverySection()
+    {
+        const Run run = tambro({QStringLiteral("folders")});
+        QCOMPARE(run.exitCode, 0);
+        for (const char *heading : {"Default folder", "KEY WORD", "PRELOADED FOLDER", "PRELOADED FILE"})
+            QVERIFY2(run.out.contains(QLatin1String(heading)), heading);
+        QVERIFY(run.out.contains(QStringLiteral("/kivlocal/download/tambro/voice records")));
+    }
+
     void usage_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -79,6 +160,7 @@ private Q_SLOTS:
         QTest::newRow("unknown command") << QStringList{QStringLiteral("format")} << 2 << false;
         QTest::newRow("unknown option") << QStringList{QStringLiteral("storage"), QStringLiteral("--bogus")} << 2 << false;
         QTest::newRow("extra argument") << QStringList{QStringLiteral("storage"), QStringLiteral("now")} << 2 << false;
+        QTest::newRow("extra argument to folders") << QStringList{QStringLiteral("folders"), QStringLiteral("/x")} << 2 << false;
     }
 
     void usage()

@@ -1,4 +1,5 @@
 // tambro: asks the file manager's base library about the phone it runs on.
+#include "folders_command.h"
 #include "storage_command.h"
 
 #include <QCommandLineParser>
@@ -6,6 +7,7 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <map>
 
 namespace {
 
@@ -15,6 +17,8 @@ const char Usage[] = "Usage: tambro COMMAND [OPTIONS]\n"
                      "\n"
                      "Commands:\n"
                      "  storage        the storage partitions: phone memory, MegaSIM, memory card\n"
+                     "  folders        the fixed folder structure: key words and their folders,\n"
+                     "                 the default folder, preloaded folders and their files\n"
                      "\n"
                      "Options:\n"
                      "  --json         print JSON instead of a table\n"
@@ -28,6 +32,11 @@ void chooseOffscreenWithoutDisplay()
         && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
+
+const std::map<QString, int (*)(QTextStream &, bool)> Commands = {
+    {QStringLiteral("storage"), runStorageCommand},
+    {QStringLiteral("folders"), runFoldersCommand},
+};
 
 int usageError(const QString &why)
 {
@@ -57,9 +66,10 @@ int main(int argc, char *argv[])
         out << Usage;
         return 0;
     }
-    if (words.first() == QLatin1String("storage") && words.size() == 1)
-        return runStorageCommand(out, parser.isSet(json));
-    if (words.first() == QLatin1String("storage"))
+    const auto command = Commands.find(words.first());
+    if (command == Commands.end())
+        return usageError(QStringLiteral("unknown command '%1'").arg(words.first()));
+    if (words.size() > 1)
         return usageError(QStringLiteral("unexpected argument '%1'").arg(words.at(1)));
-    return usageError(QStringLiteral("unknown command '%1'").arg(words.first()));
+    return command->second(out, parser.isSet(json));
 }

@@ -5,7 +5,7 @@
 #include "TAMBRO_FixedFolder.h"
 #include "mount_scan.h"
 #include "partition_table.h"
-#include "types/icon_preload.h"
+#include "types/icon_cache.h"
 
 #include <AM_MimeRegistry.h>
 #include <sortmethods.h>

@@ -4,6 +4,7 @@
 
 #include "kivtambro_export.h"
 
+#include <QPixmap>
 #include <QString>
 
 class AM_MimeRegistry;
@@ -60,6 +61,32 @@ public:
     static bool hasMMCSDCard(bool unused = false);
     static QString getMountedPath(int deviceType);
     static QString getDefaultMMCSDPartition();
+
+    // --- File types, from the name alone ------------------------------------
+    //
+    // The fixed lists compare the lower-cased text after the last "." of the
+    // whole name (the whole name when it has none); the registry's kinds ask
+    // the MIME registry about that text as written.
+
+    static bool isThumbExtension(const QString &name); // pic bmp xpm png wbmp jpg gif jpeg jpe
+    static bool isJpgExtension(const QString &name); // jpg jpeg, not jpe
+    static bool isGlintExtension(const QString &name); // gnx: light patterns
+    static bool isBookMarkExtension(const QString &name); // url vbm
+    // The registry's MIME type begins with "audio", "video" or "image".
+    static bool isAudioExtension(const QString &name);
+    static bool isVideoExtension(const QString &name);
+    static bool isImageExtension(const QString &name);
+    // Audio preloaded with the phone; the user's own audio never qualifies.
+    static bool canAsRingTone(const QString &path);
+
+    // --- Icons --------------------------------------------------------------
+
+    // The icon file name for a file: big (thumbnail) or small (list row).
+    // Never empty: a handled type of no known kind gets a generic icon.
+    static QString getFileIconByType(const QString &name, bool big);
+    // The picture of an icon file name, loaded from the platform once per
+    // process; a null picture when the platform has none.
+    static QPixmap getIcon(const QString &iconName);
 
 private:
     TAMBRO_Global() = default;

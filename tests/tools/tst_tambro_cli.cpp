@@ -3,6 +3,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QImage>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -14,17 +16,19 @@ struct Run
     QString err;
 };
 
-Run tambro(const QStringList &arguments, const QString &language = QStringLiteral("C.UTF-8"))
+Run tambro(const QStringList &arguments, const QString &language = QStringLiteral("C.UTF-8"),
+          const QString &shared = QString())
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LANG"), language);
     environment.insert(QStringLiteral("LC_ALL"), language);
     process.setProcessEnvironment(environment);
+    QStringList kivsim{QStringLiteral("--device"), QStringLiteral(SAMPLE_DEVICE)};
+    if (!shared.isEmpty())
+        kivsim << QStringLiteral("--share") << shared;
     process.start(QStringLiteral(KIVSIM_PATH),
-                  QStringList{QStringLiteral("--device"), QStringLiteral(SAMPLE_DEVICE),
-                              QStringLiteral("--"), QStringLiteral(TAMBRO_PATH)}
-                      + arguments);
+                  kivsim + QStringList{QStringLiteral("--"), QStringLiteral(TAMBRO_PATH)} + arguments);
     if (!process.waitForFinished(60000))
         qFatal("tambro did not finish");
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
@@ -149,6 +153,53 @@ private Q_SLOTS:
         QVERIFY(run.out.contains(QStringLiteral("/kivlocal/download/tambro/voice records")));
     }
 
+    void typeShowsKindsAndIcons()
+    {
+        const Run run = tambro({QStringLiteral("type"), QStringLiteral("--json"),
+                                QStringLiteral("Sunset.JPG"), QStringLiteral("/usr/data_resource/ringtones/Alert.mid")});
+        QCOMPARE(run.exitCode, 0);
+        const QJsonArray names = QJsonDocument::fromJson(run.out.toUtf8()).array();
+        QCOMPARE(names.size(), 2);
+        const QJsonObject photo = names.at(0).toObject();
+        QVERIFY(photo[QStringLiteral("image")].toBool());
+        QVERIFY(photo[QStringLiteral("jpg")].toBool());
+        QCOMPARE(photo[QStringLiteral("bigIcon")].toString(), QStringLiteral("fm_pic_thb.gif"));
+        QCOMPARE(photo[QStringLiteral("smallIcon")].toString(), QStringLiteral("fm_pic_small.gif"));
+        QVERIFY(names.at(1).toObject()[QStringLiteral("ringTone")].toBool());
+    }
+
+    void lsListsFoldersFirstThenFilesByName()
+    {
+        const Run run = tambro({QStringLiteral("ls"), QStringLiteral("--json"),
+                                QStringLiteral("/kivlocal/download/tambro/picture")});
+        QCOMPARE(run.exitCode, 0);
+        const QJsonObject listing = QJsonDocument::fromJson(run.out.toUtf8()).object();
+        QCOMPARE(listing[QStringLiteral("title")].toString(), QStringLiteral("Pictures"));
+        QStringList names;
+        for (const QJsonValue &entry : listing[QStringLiteral("entries")].toArray())
+            names << entry.toObject()[QStringLiteral("name")].toString();
+        QCOMPARE(names, (QStringList{"banner.bmp", "flowers.jpeg", "holiday.jpg", "logo.png",
+                                     "operator.wbmp", "smiley.gif", "sunset.JPG"}));
+    }
+
+    void lsDrawsThePhoneScreen()
+    {
+        QTemporaryDir shared;
+        const QString picture = shared.filePath(QStringLiteral("root.png"));
+        const Run run = tambro({QStringLiteral("ls"), QStringLiteral("--png"), picture},
+                               QStringLiteral("C.UTF-8"), shared.path());
+        QCOMPARE(run.exitCode, 0);
+        const QImage screen(picture);
+        QCOMPARE(screen.size(), QSize(240, 320));
+    }
+
+    void lsOfAMissingFolderFails()
+    {
+        const Run run = tambro({QStringLiteral("ls"), QStringLiteral("/no/such/folder")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(run.err.contains(QStringLiteral("/no/such/folder")));
+    }
+
     void usage_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -160,6 +211,10 @@ private Q_SLOTS:
         QTest::newRow("unknown command") << QStringList{QStringLiteral("format")} << 2 << false;
         QTest::newRow("unknown option") << QStringList{QStringLiteral("storage"), QStringLiteral("--bogus")} << 2 << false;
         QTest::newRow("extra argument") << QStringList{QStringLiteral("storage"), QStringLiteral("now")} << 2 << false;
+        QTest::newRow("type without a name") << QStringList{QStringLiteral("type")} << 2 << false;
+        QTest::newRow("ls of two folders") << QStringList{QStringLiteral("ls"), QStringLiteral("/a"), QStringLiteral("/b")} << 2 << false;
+        QTest::newRow("png for a command that does not draw") << QStringList{QStringLiteral("storage"), QStringLiteral("--png"), QStringLiteral("x.png")} << 2 << false;
+        QTest::newRow("png and json together") << QStringList{QStringLiteral("ls"), QStringLiteral("--png"), QStringLiteral("x.png"), QStringLiteral("--json")} << 2 << false;
         QTest::newRow("extra argument to folders") << QStringList{QStringLiteral("folders"), QStringLiteral("/x")} << 2 << false;
     }
 

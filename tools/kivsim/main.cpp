@@ -28,6 +28,7 @@ struct Invocation
     QStringList command;
     bool verbose = false;
     bool keep = false;
+    QStringList shared; // host folders the command may write
 };
 
 QTextStream &err()
@@ -55,7 +56,12 @@ std::optional<Invocation> parseArguments(const QStringList &arguments)
         QStringLiteral("Print the host path of the device copy and the bwrap command."));
     const QCommandLineOption keep(QStringLiteral("keep"),
                                   QStringLiteral("Keep the device copy after the run."));
-    parser.addOptions({device, verbose, keep});
+    const QCommandLineOption share(
+        QStringLiteral("share"),
+        QStringLiteral("Let the command write into this host folder, at the same path inside "
+                       "(repeatable)."),
+        QStringLiteral("dir"));
+    parser.addOptions({device, verbose, keep, share});
     const QCommandLineOption help = parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("command"),
                                  QStringLiteral("The command to run, with its arguments."),
@@ -72,7 +78,7 @@ std::optional<Invocation> parseArguments(const QStringList &arguments)
         return std::nullopt;
     }
     return Invocation{parser.value(device), parser.positionalArguments(), parser.isSet(verbose),
-                      parser.isSet(keep)};
+                      parser.isSet(keep), parser.values(share)};
 }
 
 bool isDeviceFolder(const QString &folder)
@@ -130,6 +136,23 @@ bool shareJournal(BwrapCommand &command)
     return true;
 }
 
+bool canShare(const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        if (!QFileInfo(folder).isDir()) {
+            err() << "kivsim: cannot share " << folder << ": no such folder" << Qt::endl;
+            return false;
+        }
+    }
+    return true;
+}
+
+void shareFolders(BwrapCommand &command, const QStringList &folders)
+{
+    for (const QString &folder : folders)
+        command.revealHostPath(folder, BwrapCommand::Access::ReadWrite);
+}
+
 void shareWindowSystem(BwrapCommand &command)
 {
     const QString runtimeDir = qEnvironmentVariable("XDG_RUNTIME_DIR");
@@ -160,7 +183,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("kivsim"));
 
     const std::optional<Invocation> invocation = parseArguments(app.arguments());
-    if (!invocation || !isDeviceFolder(invocation->deviceFolder))
+    if (!invocation || !isDeviceFolder(invocation->deviceFolder) || !canShare(invocation->shared))
         return ExitCode::Usage;
     const SandboxSettings settings = readSettings(invocation->deviceFolder);
 
@@ -176,6 +199,7 @@ int main(int argc, char *argv[])
     BwrapCommand command(copy.path(), settings);
     if (!shareJournal(command))
         return ExitCode::SetupFailed;
+    shareFolders(command, invocation->shared);
     shareWindowSystem(command);
     setUpProcess(command, settings, invocation->command);
 

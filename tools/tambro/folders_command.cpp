@@ -232,10 +232,10 @@ QString textReport(const QJsonObject &structure)
 
 } // namespace
 
-int runFoldersCommand(QTextStream &out, bool json)
+int runFoldersCommand(QTextStream &out, const Request &request)
 {
     const QJsonObject structure = describeStructure();
-    if (json)
+    if (request.json)
         out << QJsonDocument(structure).toJson(QJsonDocument::Indented);
     else
         out << textReport(structure);

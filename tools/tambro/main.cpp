@@ -1,11 +1,15 @@
 // tambro: asks the file manager's base library about the phone it runs on.
 #include "folders_command.h"
+#include "ls_command.h"
+#include "request.h"
 #include "storage_command.h"
+#include "type_command.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QTextStream>
 
+#include <climits>
 #include <cstdio>
 #include <map>
 
@@ -13,16 +17,20 @@ namespace {
 
 constexpr int UsageError = 2;
 
-const char Usage[] = "Usage: tambro COMMAND [OPTIONS]\n"
+const char Usage[] = "Usage: tambro COMMAND [OPTIONS] [ARGUMENTS]\n"
                      "\n"
                      "Commands:\n"
-                     "  storage        the storage partitions: phone memory, MegaSIM, memory card\n"
-                     "  folders        the fixed folder structure: key words and their folders,\n"
-                     "                 the default folder, preloaded folders and their files\n"
+                     "  storage          the storage partitions: phone memory, MegaSIM, memory card\n"
+                     "  folders          the fixed folder structure: key words and their folders,\n"
+                     "                   the default folder, preloaded folders and their files\n"
+                     "  type NAME...     each name's file types and its big and small icons\n"
+                     "  ls [FOLDER]      a folder as the file manager lists it: folders first,\n"
+                     "                   then files, each with its icons (default: the root)\n"
                      "\n"
                      "Options:\n"
-                     "  --json         print JSON instead of a table\n"
-                     "  -h, --help     print this help\n";
+                     "  --json           print JSON instead of a table\n"
+                     "  --png FILE       ls: draw the listing as the phone shows it into FILE\n"
+                     "  -h, --help       print this help\n";
 
 // Without a display the tool still needs an application object for pixmaps
 // and translations: run it on the offscreen platform then.
@@ -33,9 +41,19 @@ void chooseOffscreenWithoutDisplay()
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-const std::map<QString, int (*)(QTextStream &, bool)> Commands = {
-    {QStringLiteral("storage"), runStorageCommand},
-    {QStringLiteral("folders"), runFoldersCommand},
+struct Command
+{
+    int (*run)(QTextStream &out, const Request &request);
+    int minArguments;
+    int maxArguments;
+    bool draws; // takes --png
+};
+
+const std::map<QString, Command> Commands = {
+    {QStringLiteral("storage"), {runStorageCommand, 0, 0, false}},
+    {QStringLiteral("folders"), {runFoldersCommand, 0, 0, false}},
+    {QStringLiteral("type"), {runTypeCommand, 1, INT_MAX, false}},
+    {QStringLiteral("ls"), {runLsCommand, 0, 1, true}},
 };
 
 int usageError(const QString &why)
@@ -43,6 +61,21 @@ int usageError(const QString &why)
     QTextStream err(stderr);
     err << "tambro: " << why << "\n\n" << Usage;
     return UsageError;
+}
+
+// Why the request does not fit the command; empty when it does.
+QString misuse(const QString &name, const Command &command, const Request &request)
+{
+    const int count = int(request.arguments.size());
+    if (count > command.maxArguments)
+        return QStringLiteral("unexpected argument '%1'").arg(request.arguments.at(command.maxArguments));
+    if (count < command.minArguments)
+        return QStringLiteral("'%1' needs an argument").arg(name);
+    if (!request.png.isNull() && !command.draws)
+        return QStringLiteral("'%1' does not draw: --png is for ls").arg(name);
+    if (!request.png.isNull() && request.json)
+        return QStringLiteral("--png and --json do not go together");
+    return QString();
 }
 
 } // namespace
@@ -54,8 +87,10 @@ int main(int argc, char *argv[])
 
     QCommandLineParser parser;
     const QCommandLineOption json(QStringLiteral("json"));
+    const QCommandLineOption png(QStringLiteral("png"), QString(), QStringLiteral("FILE"));
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     parser.addOption(json);
+    parser.addOption(png);
     parser.addOption(help);
     if (!parser.parse(app.arguments()))
         return usageError(parser.errorText());
@@ -69,7 +104,12 @@ int main(int argc, char *argv[])
     const auto command = Commands.find(words.first());
     if (command == Commands.end())
         return usageError(QStringLiteral("unknown command '%1'").arg(words.first()));
-    if (words.size() > 1)
-        return usageError(QStringLiteral("unexpected argument '%1'").arg(words.at(1)));
-    return command->second(out, parser.isSet(json));
+    if (parser.isSet(png) && parser.value(png).isEmpty())
+        return usageError(QStringLiteral("--png needs a file name"));
+    const Request request{words.mid(1), parser.isSet(json),
+                          parser.isSet(png) ? parser.value(png) : QString()};
+    const QString why = misuse(command->first, command->second, request);
+    if (!why.isEmpty())
+        return usageError(why);
+    return command->second.run(out, request);
 }

@@ -75,14 +75,14 @@ QString textTable(const QJsonArray &partitions)
 
 } // namespace
 
-int runStorageCommand(QTextStream &out, bool json)
+int runStorageCommand(QTextStream &out, const Request &request)
 {
     TAMBRO_Global::instance();
     QJsonArray partitions;
     for (int parti = 1; parti <= TAMBRO_Global::getPartiActNumber(); ++parti)
         partitions.append(partitionObject(parti));
 
-    if (json)
+    if (request.json)
         out << QJsonDocument(partitions).toJson(QJsonDocument::Indented);
     else
         out << textTable(partitions);

@@ -1,0 +1,78 @@
+#include "list_view_picture.h"
+
+#include <TAMBRO_Global.h>
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace {
+
+// A QVGA phone screen, with its list rows sized for 16-pixel icons.
+constexpr int ScreenWidth = 240;
+constexpr int ScreenHeight = 320;
+constexpr int TitleHeight = 26;
+constexpr int RowHeight = 22;
+constexpr int IconSize = 16;
+constexpr int Margin = 4;
+
+const QColor TitleBackground(0x2b, 0x4c, 0x7e);
+const QColor RowBackground(Qt::white);
+const QColor AlternateRowBackground(0xee, 0xf2, 0xf8);
+const QColor Separator(0xd0, 0xd8, 0xe4);
+
+void drawTitle(QPainter &painter, const QString &title)
+{
+    painter.fillRect(0, 0, ScreenWidth, TitleHeight, TitleBackground);
+    QFont font = painter.font();
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    const QRect area(Margin, 0, ScreenWidth - 2 * Margin, TitleHeight);
+    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft,
+                     QFontMetrics(font).elidedText(title, Qt::ElideRight, area.width()));
+    font.setBold(false);
+    painter.setFont(font);
+}
+
+void drawRow(QPainter &painter, int top, int index, const ListedEntry &entry)
+{
+    painter.fillRect(0, top, ScreenWidth, RowHeight,
+                     index % 2 ? AlternateRowBackground : RowBackground);
+    painter.setPen(Separator);
+    painter.drawLine(0, top + RowHeight - 1, ScreenWidth, top + RowHeight - 1);
+    const QPixmap icon = TAMBRO_Global::getIcon(entry.smallIcon);
+    const QRect iconArea(Margin, top + (RowHeight - IconSize) / 2, IconSize, IconSize);
+    if (!icon.isNull())
+        painter.drawPixmap(iconArea, icon);
+    const QRect textArea(iconArea.right() + 1 + Margin, top,
+                         ScreenWidth - iconArea.right() - 1 - 2 * Margin, RowHeight);
+    painter.setPen(Qt::black);
+    painter.drawText(textArea, Qt::AlignVCenter | Qt::AlignLeft,
+                     painter.fontMetrics().elidedText(entry.shownAs, Qt::ElideRight, textArea.width()));
+}
+
+// A thin bar at the right edge telling how much of the list the screen shows.
+void drawScrollIndicator(QPainter &painter, int shown, int total)
+{
+    const int trackHeight = ScreenHeight - TitleHeight;
+    const int barHeight = std::max(8, trackHeight * shown / total);
+    painter.fillRect(ScreenWidth - 3, TitleHeight, 3, barHeight, TitleBackground);
+}
+
+} // namespace
+
+QImage drawListView(const FolderListing &listing)
+{
+    QImage screen(ScreenWidth, ScreenHeight, QImage::Format_RGB32);
+    screen.fill(RowBackground);
+    QPainter painter(&screen);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    drawTitle(painter, listing.title);
+    const int rowsThatFit = (ScreenHeight - TitleHeight) / RowHeight;
+    const int shown = std::min<int>(rowsThatFit, int(listing.entries.size()));
+    for (int i = 0; i < shown; ++i)
+        drawRow(painter, TitleHeight + i * RowHeight, i, listing.entries.at(i));
+    if (shown < listing.entries.size())
+        drawScrollIndicator(painter, shown, int(listing.entries.size()));
+    return screen;
+}

@@ -235,9 +235,5 @@ QString textReport(const QJsonObject &structure)
 int runFoldersCommand(QTextStream &out, const Request &request)
 {
     const QJsonObject structure = describeStructure();
-    if (request.json)
-        out << QJsonDocument(structure).toJson(QJsonDocument::Indented);
-    else
-        out << textReport(structure);
-    return 0;
+    return printReport(out, request, structure, textReport);
 }

@@ -31,13 +31,17 @@ QJsonObject toJson(const QString &folder, const FolderListing &listing)
                        {QStringLiteral("entries"), entries}};
 }
 
-QString textTable(const FolderListing &listing)
+QString textTable(const QJsonObject &listing)
 {
     TextTable table({QStringLiteral("KIND"), QStringLiteral("NAME"), QStringLiteral("SHOWN AS"),
                      QStringLiteral("SMALL ICON"), QStringLiteral("BIG ICON")});
-    for (const ListedEntry &entry : listing.entries)
-        table.addRow({entry.isFolder ? QStringLiteral("folder") : QStringLiteral("file"), entry.name,
-                      entry.shownAs, entry.smallIcon, entry.bigIcon});
+    for (const QJsonValue &value : listing[QStringLiteral("entries")].toArray()) {
+        const QJsonObject entry = value.toObject();
+        QStringList row;
+        for (const char *field : {"kind", "name", "shownAs", "smallIcon", "bigIcon"})
+            row << entry[QLatin1String(field)].toString();
+        table.addRow(row);
+    }
     return table.toString();
 }
 
@@ -64,9 +68,5 @@ int runLsCommand(QTextStream &out, const Request &request)
             return fail(QStringLiteral("cannot write '%1'").arg(request.png));
         return 0;
     }
-    if (request.json)
-        out << QJsonDocument(toJson(folder, *listing)).toJson(QJsonDocument::Indented);
-    else
-        out << textTable(*listing);
-    return 0;
+    return printReport(out, request, toJson(folder, *listing), textTable);
 }

@@ -82,9 +82,5 @@ int runStorageCommand(QTextStream &out, const Request &request)
     for (int parti = 1; parti <= TAMBRO_Global::getPartiActNumber(); ++parti)
         partitions.append(partitionObject(parti));
 
-    if (request.json)
-        out << QJsonDocument(partitions).toJson(QJsonDocument::Indented);
-    else
-        out << textTable(partitions);
-    return 0;
+    return printReport(out, request, partitions, textTable);
 }

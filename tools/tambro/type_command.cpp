@@ -65,9 +65,5 @@ int runTypeCommand(QTextStream &out, const Request &request)
     QJsonArray names;
     for (const QString &name : request.arguments)
         names.append(describe(name));
-    if (request.json)
-        out << QJsonDocument(names).toJson(QJsonDocument::Indented);
-    else
-        out << textTable(names);
-    return 0;
+    return printReport(out, request, names, textTable);
 }

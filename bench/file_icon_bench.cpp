@@ -1,0 +1,140 @@
+// Classifying the names of a folder listing: the library's icon choice on the
+// simulated registry (with the system's MIME database behind it), against a
+// bare QMimeDatabase look-up and GIO's guess, in one process so that the
+// figures compare. Also the start-up cost of the standard icons and the cost
+// of a cached icon.
+// GLib first: Qt's keyword macros would break its headers.
+#ifdef KIVTAMBRO_BENCH_GIO
+#include <gio/gio.h>
+#endif
+
+#include <TAMBRO_Global.h>
+
+#include "types/icon_cache.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QMimeDatabase>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include <vector>
+
+namespace {
+
+constexpr int NameCount = 100000;
+
+// The sample phone's registry, with unlisted extensions answered by the
+// system's database.
+const QByteArray Device = "[registry]\nsystem = 1\n"
+                          "[mime]\nmp3 = audio/mpeg\njpg = image/jpeg\npng = image/png\n"
+                          "3gp = video/3gpp\nmp4 = video/mp4\namr = audio/amr\n"
+                          "txt = text/plain\nvcf = text/x-vcard\njar = application/java-archive\n"
+                          "[handlers]\naudio/* = com.kiv.player\nvideo/* = com.kiv.player\n"
+                          "image/* = com.kiv.viewer\ntxt = com.kiv.notepad\nvcf = com.kiv.contacts\n"
+                          "url = com.kiv.browser\n";
+
+// A phone's worth of names: mostly media, some documents, unknown types and
+// names without extension, in a fixed pseudo-random order.
+const std::vector<QString> &names()
+{
+    static const std::vector<QString> list = [] {
+        const char *extensions[] = {".mp3", ".jpg", ".JPG", ".png", ".3gp", ".mp4", ".amr",
+                                    ".txt", ".vcf", ".jar", ".url", ".xq7", ".dat", ""};
+        QRandomGenerator random(20261121);
+        std::vector<QString> result;
+        result.reserve(NameCount);
+        for (int i = 0; i < NameCount; ++i) {
+            const char *extension = extensions[random.bounded(int(std::size(extensions)))];
+            result.push_back(QStringLiteral("file %1").arg(i) + QLatin1String(extension));
+        }
+        return result;
+    }();
+    return list;
+}
+
+// Each iteration classifies one name, so the time shown is per name.
+template<typename Classify>
+void overNames(benchmark::State &state, Classify classify)
+{
+    const std::vector<QString> &list = names();
+    size_t next = 0;
+    for (auto _ : state) {
+        classify(list[next]);
+        next = next + 1 == list.size() ? 0 : next + 1;
+    }
+}
+
+void libraryIconChoice(benchmark::State &state)
+{
+    overNames(state, [](const QString &name) {
+        benchmark::DoNotOptimize(TAMBRO_Global::getFileIconByType(name, false));
+    });
+}
+BENCHMARK(libraryIconChoice);
+
+void bareQMimeDatabase(benchmark::State &state)
+{
+    const QMimeDatabase database;
+    overNames(state, [&](const QString &name) {
+        benchmark::DoNotOptimize(database.mimeTypeForFile(name, QMimeDatabase::MatchExtension));
+    });
+}
+BENCHMARK(bareQMimeDatabase);
+
+#ifdef KIVTAMBRO_BENCH_GIO
+void gioContentTypeGuess(benchmark::State &state)
+{
+    std::vector<QByteArray> utf8;
+    for (const QString &name : names())
+        utf8.push_back(name.toUtf8());
+    size_t next = 0;
+    for (auto _ : state) {
+        gboolean uncertain = false;
+        gchar *type = g_content_type_guess(utf8[next].constData(), nullptr, 0, &uncertain);
+        benchmark::DoNotOptimize(type);
+        g_free(type);
+        next = next + 1 == utf8.size() ? 0 : next + 1;
+    }
+}
+BENCHMARK(gioContentTypeGuess);
+#endif
+
+void standardIconsAtStartUp(benchmark::State &state)
+{
+    for (auto _ : state)
+        Tambro::preloadIcons();
+}
+BENCHMARK(standardIconsAtStartUp)->Unit(benchmark::kMillisecond);
+
+void cachedIcon(benchmark::State &state)
+{
+    const QString name = QStringLiteral("fm_audio_small.gif");
+    TAMBRO_Global::getIcon(name);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(TAMBRO_Global::getIcon(name));
+}
+BENCHMARK(cachedIcon);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QTemporaryDir folder;
+    const QString devicePath = folder.filePath(QStringLiteral("device.ini"));
+    QFile device(devicePath);
+    if (!device.open(QIODevice::WriteOnly) || device.write(Device) != Device.size())
+        qFatal("cannot write the benchmark's device file");
+    device.close();
+    qputenv("KIVSIM_DEVICE", QFile::encodeName(devicePath));
+    qunsetenv("KIVSIM_JOURNAL");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv); // pictures need one
+
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -8,6 +8,21 @@
 
 namespace {
 
+// The journal of a rescan without the standard icons, which it reloads too.
+QList<QByteArray> scanJournalLines()
+{
+    QList<QByteArray> lines = TestPhone::journalLines();
+    lines.removeIf([](const QByteArray &line) { return line.contains("RES_ICON_Reader::getIcon"); });
+    return lines;
+}
+
+QStringList scanJournalCalls()
+{
+    QStringList calls = TestPhone::journalCalls();
+    calls.removeAll(QStringLiteral("RES_ICON_Reader::getIcon"));
+    return calls;
+}
+
 const QByteArray PhoneLine = "/dev/mtdblock5 /kivlocal/download/tambro jffs2 rw 0 0\n";
 const QByteArray CardLine = "/dev/mmca1 /mmc/mmca1 vfat rw,noatime 0 0\n";
 const QByteArray MegaSimLine = "/dev/mmcb1 /mmc/megasim1 vfat rw 0 0\n";
@@ -300,11 +315,9 @@ void TestPartitions::cardDriverCalls()
 {
     TestPhone::clearJournal();
     rescan(CardLine, ReadyCard);
-    const QList<QJsonObject> calls = TestPhone::journal();
-    QCOMPARE(calls.size(), 2);
-    QCOMPARE(TestPhone::journalLines().first(),
-             QByteArray(R"({"call":"UTIL_GetMMCSDInfo","device":"/dev/mmca"})"));
-    QCOMPARE(TestPhone::journalLines().last(), QByteArray(R"({"call":"UTIL_GetMMCSDStatus"})"));
+    QCOMPARE(scanJournalLines(),
+             (QList<QByteArray>{R"({"call":"UTIL_GetMMCSDInfo","device":"/dev/mmca"})",
+                                R"({"call":"UTIL_GetMMCSDStatus"})"}));
 }
 
 void TestPartitions::deviceTreeCallsPairUp()
@@ -315,13 +328,13 @@ void TestPartitions::deviceTreeCallsPairUp()
                                   QStringLiteral("UTIL_GetMMCSDStatus")};
     TestPhone::clearJournal();
     rescan(MegaSimLine, "[megasim]\nname = X\n");
-    QCOMPARE(TestPhone::journalCalls(), fullRead);
+    QCOMPARE(scanJournalCalls(), fullRead);
     QCOMPARE(TestPhone::journal().at(1).value(QStringLiteral("path")).toString(),
              QStringLiteral("./DevDetail/Ext/Conf/MegaSIM"));
 
     TestPhone::clearJournal();
     rescan(MegaSimLine, "[megasim]\ninitialize = 0\n");
-    QCOMPARE(TestPhone::journalCalls(),
+    QCOMPARE(scanJournalCalls(),
              (QStringList{QStringLiteral("DmtTreeFactory::Initialize"),
                           QStringLiteral("DmtTreeFactory::Uninitialize"),
                           QStringLiteral("UTIL_GetMMCSDStatus")}));

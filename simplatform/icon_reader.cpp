@@ -4,6 +4,7 @@
 #include "journal.h"
 
 #include <QDebug>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QString>
@@ -48,8 +49,12 @@ QPixmap RES_ICON_Reader::getIcon(const char *name, bool big)
     if (iconName.isEmpty() || iconName.contains(u'/') || iconName == QLatin1String("..")
         || !canMakePixmaps())
         return QPixmap();
-    // Decoded by content: the icon files may hold PNG data under other suffixes.
+    // Opened by its exact name: loading by file name would also try the name
+    // with image suffixes added. Decoded by content, since the icon files may
+    // hold PNG data under other suffixes.
+    QFile file(iconPath(KivSim::device()->iconDir, iconName));
     QImage image;
-    image.load(iconPath(KivSim::device()->iconDir, iconName));
+    if (file.open(QIODevice::ReadOnly))
+        image.load(&file, nullptr);
     return QPixmap::fromImage(image);
 }

@@ -1,5 +1,9 @@
 #include "device.h"
 
+#include "file_watch.h"
+#include "system_mime_database.h"
+
+#include <QByteArrayView>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
@@ -7,6 +11,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstdlib>
 #include <mutex>
 #include <optional>
 
@@ -212,15 +217,17 @@ DeviceState deviceStateFrom(const KeyFile &file, const QString &path, QStringLis
 {
     DeviceState state;
     StateReader reader(path, warnings);
+    KeyFile::Section mimeTypes;
+    KeyFile::Section handlers;
     for (const KeyFile::Section &section : file.sections()) {
         if (isFixedSection(section.name))
             reader.readFixed(section, state);
         else if (section.name == QLatin1String("flex"))
             reader.readFlexBits(section, state);
         else if (section.name == QLatin1String("mime"))
-            state.mimeTypes = reader.readMap(section);
+            mimeTypes = reader.readMap(section);
         else if (section.name == QLatin1String("handlers"))
-            state.handlers = reader.readMap(section);
+            handlers = reader.readMap(section);
         else if (section.name == QLatin1String("sandbox"))
             continue; // the kivsim launcher's layout of the phone
         else
@@ -228,6 +235,9 @@ DeviceState deviceStateFrom(const KeyFile &file, const QString &path, QStringLis
     }
     if (!state.iconDir.isEmpty())
         state.iconDir = QFileInfo(path).absoluteDir().absoluteFilePath(state.iconDir);
+    // Built last: [registry] may come after [mime].
+    state.mime = std::make_shared<const MimeLookup>(
+        mimeTypes, handlers, state.systemMimeDatabase ? &SystemMimeDatabase::host() : nullptr);
     return state;
 }
 
@@ -281,26 +291,38 @@ public:
     std::shared_ptr<const DeviceState> current();
 
 private:
+    void read();
+
     std::mutex m_mutex;
     QByteArray m_path;
+    FileWatch m_watch;
     FileStamp m_stamp;
     std::shared_ptr<const DeviceState> m_state;
 };
 
 std::shared_ptr<const DeviceState> DeviceFile::current()
 {
-    // Read on every call (not once) so that a program can also switch files.
-    const QByteArray path = qgetenv("KIVSIM_DEVICE");
-    // Stamped before reading: a change during the read shows at the next call.
-    const FileStamp stamp = stampOf(path);
+    // Read on every call (not once) so that a program can also switch files;
+    // getenv, unlike qgetenv, copies nothing.
+    const QByteArrayView path(std::getenv("KIVSIM_DEVICE"));
     std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_state && path == m_path && stamp == m_stamp)
+    const bool samePath = m_state && path == m_path;
+    if (samePath && !m_watch.mayHaveChanged())
         return m_state;
-    m_path = path;
-    m_stamp = stamp;
-    m_state = stamp.exists ? readDeviceFile(QFile::decodeName(path))
-                           : std::make_shared<const DeviceState>();
+    if (samePath && stampOf(m_path) == m_stamp)
+        return m_state;
+    m_path = path.toByteArray();
+    read();
     return m_state;
+}
+
+void DeviceFile::read()
+{
+    // Watched and stamped before reading: a change during the read shows at the next call.
+    m_watch.watch(m_path);
+    m_stamp = stampOf(m_path);
+    m_state = m_stamp.exists ? readDeviceFile(QFile::decodeName(m_path))
+                             : std::make_shared<const DeviceState>();
 }
 
 } // namespace

@@ -1,12 +1,18 @@
 // The state of the simulated phone, read from the device file that the
 // environment variable KIVSIM_DEVICE names.
 //
-// The file is looked at (stat) on every call and read again whenever it
-// changed, so that a test or a person can change the phone while a program
-// runs. Without the variable or the file every value has its default.
+// Every call looks whether the file changed and reads it again when it did,
+// so that a test or a person can change the phone while a program runs; a
+// change made before a call is seen by that call. Looking is cheap: the file's
+// folder is watched with inotify, and the file is stat'ed only when something
+// happened to its name, or on every call where the watch cannot tell (see
+// file_watch.h). Changed means a new stamp (inode, size or modification time),
+// so rewriting the file in place with as many bytes within one tick of the
+// file system's clock goes unseen. Without the variable or the file every
+// value has its default.
 #pragma once
 
-#include "keyfile.h"
+#include "mime_lookup.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -39,9 +45,9 @@ struct DeviceState
     CardState card;
     MegaSimState megaSim;
     QHash<quint16, bool> flexBits; // the listed bits of the feature table
-    KeyFile::Section mimeTypes; // extension -> MIME type
-    KeyFile::Section handlers; // extension, MIME type or family -> application id
     bool systemMimeDatabase = false; // unknown extensions go to the system's database
+    // [mime] and [handlers], with the answers given so far.
+    std::shared_ptr<const MimeLookup> mime = std::make_shared<const MimeLookup>();
     QString iconDir; // absolute folder of icon files; empty for the built-in icons
 };
 

@@ -1,26 +1,10 @@
 #include "mime_lookup.h"
 
-#include <QMimeDatabase>
+#include "system_mime_database.h"
 
 namespace KivSim {
 
 namespace {
-
-QString valueOf(const KeyFile::Section &section, const QString &key)
-{
-    const KeyFile::Entry *entry = section.findIgnoringCase(key);
-    return entry ? entry->value : QString();
-}
-
-QString systemMimeTypeOf(const QString &extension)
-{
-    if (extension.isEmpty() || extension.contains(u'/'))
-        return QString();
-    const QMimeType type = QMimeDatabase().mimeTypeForFile(QStringLiteral("file.") + extension,
-                                                           QMimeDatabase::MatchExtension);
-    // The database's fallback, application/octet-stream, means it does not know.
-    return type.isValid() && !type.isDefault() ? type.name() : QString();
-}
 
 QString familyOf(const QString &mimeType)
 {
@@ -30,43 +14,64 @@ QString familyOf(const QString &mimeType)
 
 } // namespace
 
-QString mimeTypeOf(const DeviceState &device, const QString &extension)
+MimeLookup::MimeLookup(const KeyFile::Section &types, const KeyFile::Section &handlers,
+                       const SystemMimeDatabase *system)
+    : m_types(types), m_handlers(handlers), m_system(system)
 {
-    const QString listed = valueOf(device.mimeTypes, extension);
-    if (!listed.isNull() || !device.systemMimeDatabase)
-        return listed;
-    return systemMimeTypeOf(extension);
 }
 
-QStringList extensionsOf(const DeviceState &device, const QString &mimeType)
+QString MimeLookup::typeOf(const QString &extension) const
 {
-    QStringList extensions;
-    for (const KeyFile::Entry &entry : device.mimeTypes.entries) {
-        if (entry.value.compare(mimeType, Qt::CaseInsensitive) == 0)
-            extensions.append(entry.key);
+    return m_typeAnswers.answer(extension, [&] { return workOutTypeOf(extension); });
+}
+
+QStringList MimeLookup::extensionsOf(const QString &mimeType) const
+{
+    QStringList extensions = m_types.keysWithValue(mimeType);
+    if (!m_system)
+        return extensions;
+    // Only what the look-up by extension sends back to the type, so that the
+    // two directions agree; a key of the device covers its case variants.
+    for (const QString &extension : m_system->extensionsOf(mimeType)) {
+        if (!extensions.contains(extension, Qt::CaseInsensitive)
+            && typeOf(extension).compare(mimeType, Qt::CaseInsensitive) == 0)
+            extensions.append(extension);
     }
     return extensions;
 }
 
-QString handlerForMimeType(const DeviceState &device, const QString &mimeType)
+QString MimeLookup::handlerForType(const QString &mimeType) const
 {
     // Extensions and types share [handlers]; only a key with a slash is a type.
     if (!mimeType.contains(u'/'))
         return QString();
-    const QString handler = valueOf(device.handlers, mimeType);
+    const QString handler = m_handlers.value(mimeType);
     if (!handler.isNull())
         return handler;
     const QString family = familyOf(mimeType);
-    return family.isEmpty() ? QString() : valueOf(device.handlers, family);
+    return family.isEmpty() ? QString() : m_handlers.value(family);
 }
 
-QString handlerForExtension(const DeviceState &device, const QString &extension)
+QString MimeLookup::handlerForExtension(const QString &extension) const
 {
-    const QString handler =
-        extension.contains(u'/') ? QString() : valueOf(device.handlers, extension);
+    return m_handlerAnswers.answer(extension,
+                                   [&] { return workOutHandlerForExtension(extension); });
+}
+
+QString MimeLookup::workOutTypeOf(const QString &extension) const
+{
+    const QString listed = m_types.value(extension);
+    if (!listed.isNull() || !m_system)
+        return listed;
+    return m_system->typeOf(extension);
+}
+
+QString MimeLookup::workOutHandlerForExtension(const QString &extension) const
+{
+    const QString handler = extension.contains(u'/') ? QString() : m_handlers.value(extension);
     if (!handler.isNull())
         return handler;
-    return handlerForMimeType(device, mimeTypeOf(device, extension));
+    return handlerForType(typeOf(extension));
 }
 
 } // namespace KivSim

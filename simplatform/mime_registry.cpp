@@ -2,7 +2,6 @@
 
 #include "device.h"
 #include "journal.h"
-#include "mime_lookup.h"
 
 AM_MimeRegistry::AM_MimeRegistry() = default;
 
@@ -22,12 +21,12 @@ QString AM_MimeRegistry::getAssociatedMimeType(const QString &extension)
             .arg("extension", extension)
             .write();
     }
-    return KivSim::mimeTypeOf(*KivSim::device(), extension);
+    return KivSim::device()->mime->typeOf(extension);
 }
 
 QStringList AM_MimeRegistry::getAssociatedExtensions(const QString &mimeType)
 {
-    return KivSim::extensionsOf(*KivSim::device(), mimeType);
+    return KivSim::device()->mime->extensionsOf(mimeType);
 }
 
 QString AM_MimeRegistry::getDefaultHandlerId(MIME_LOOKUP_CRITERIA criterion, const QString &key,
@@ -43,9 +42,9 @@ QString AM_MimeRegistry::getDefaultHandlerId(MIME_LOOKUP_CRITERIA criterion, con
     const auto device = KivSim::device();
     switch (criterion) {
     case MIME_LOOKUP_BY_EXTENSION:
-        return KivSim::handlerForExtension(*device, key);
+        return device->mime->handlerForExtension(key);
     case MIME_LOOKUP_BY_MIMETYPE:
-        return KivSim::handlerForMimeType(*device, key);
+        return device->mime->handlerForType(key);
     }
     return QString();
 }

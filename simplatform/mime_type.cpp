@@ -1,7 +1,6 @@
 #include "UTIL_MimeType.h"
 
 #include "device.h"
-#include "mime_lookup.h"
 
 #include <QFileInfo>
 
@@ -11,6 +10,6 @@ bool UTIL_MimeType::isPicture(const QString &path)
     const qsizetype dot = fileName.lastIndexOf(u'.');
     if (dot < 0)
         return false;
-    const QString mimeType = KivSim::mimeTypeOf(*KivSim::device(), fileName.mid(dot + 1));
+    const QString mimeType = KivSim::device()->mime->typeOf(fileName.mid(dot + 1));
     return mimeType.startsWith(QLatin1String("image/"), Qt::CaseInsensitive);
 }

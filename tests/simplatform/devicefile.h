@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QSaveFile>
 #include <QTemporaryDir>
 
 class TestDeviceFile
@@ -17,13 +18,23 @@ public:
 
     // Every write gets a later modification time, so that a rewrite of the same
     // size within the file system's clock tick is noticed as a change too.
-    bool write(const QByteArray &content)
+    bool write(const QByteArray &content) { return writeTo(m_path, content); }
+
+    // Writes another file of the folder the same way.
+    bool writeTo(const QString &path, const QByteArray &content)
     {
-        QFile file(m_path);
+        QFile file(path);
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
             return false;
         const QDateTime stamp = QDateTime(QDate(2020, 1, 1), QTime(0, 0)).addSecs(++m_writes);
         return file.setFileTime(stamp, QFileDevice::FileModificationTime);
+    }
+
+    // A new file put in place by renaming, as editors and QSaveFile do.
+    bool replace(const QByteArray &content)
+    {
+        QSaveFile file(m_path);
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
     }
 
     bool remove() { return QFile::remove(m_path); }

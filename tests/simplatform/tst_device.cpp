@@ -5,9 +5,23 @@
 #include "SETUP_Utility.h"
 #include "UTIL_MMCSD.h"
 
+#include <QFileInfo>
 #include <QImage>
 #include <QRegularExpression>
 #include <QTest>
+
+#include <functional>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+// Puts a device file with the content in place of the current one.
+using Change = std::function<bool(TestDeviceFile &device, const QByteArray &content)>;
+Q_DECLARE_METATYPE(Change)
+
+// The device file as a writer that never closes it holds it, up to the end of a test.
+static QFile keptOpen;
 
 // A card information block as the driver fills it.
 static QByteArray cardBlock(quint8 byte0, quint8 byte2, const QByteArray &label)
@@ -55,21 +69,34 @@ class TestDevice : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup();
     void card_data();
     void card();
     void reloadsWhenTheFileChanges();
+    void seesEveryWayOfChanging_data();
+    void seesEveryWayOfChanging();
+    void seesAFolderMadeAgainWhileTheOldIsHeld();
+    void forkedChildLeavesTheParentItsChanges();
     void warnsOncePerChange();
     void flexBit_data();
     void flexBit();
     void megaSim_data();
     void megaSim();
     void emptyTextHoldsNoBuffer();
-    void builtInIconsAreDistinct();
     void iconFolderOfTheDevice();
 
 private:
     TestDeviceFile m_device;
 };
+
+void TestDevice::cleanup()
+{
+    keptOpen.close();
+    // Back to the plain device file after a test put another one in its place.
+    if (QFileInfo(m_device.path()).isSymLink())
+        QVERIFY(m_device.remove());
+    qputenv("KIVSIM_DEVICE", QFile::encodeName(m_device.path()));
+}
 
 void TestDevice::card_data()
 {
@@ -126,6 +153,101 @@ void TestDevice::reloadsWhenTheFileChanges()
     QCOMPARE(UTIL_GetMMCSDStatus(), 0);
     QVERIFY(m_device.write("[card]\nstatus=3"));
     QCOMPARE(UTIL_GetMMCSDStatus(), 3);
+}
+
+void TestDevice::seesEveryWayOfChanging_data()
+{
+    QTest::addColumn<Change>("change");
+
+    QTest::newRow("rewritten in place") << Change([](TestDeviceFile &device, const QByteArray &content) {
+        return device.write(content);
+    });
+    QTest::newRow("replaced by rename") << Change([](TestDeviceFile &device, const QByteArray &content) {
+        return device.replace(content);
+    });
+    QTest::newRow("written through a file kept open")
+        << Change([](TestDeviceFile &device, const QByteArray &content) {
+               static int writes = 0;
+               keptOpen.setFileName(device.path());
+               if (!keptOpen.isOpen() && !keptOpen.open(QIODevice::WriteOnly))
+                   return false;
+               // A new size each time: the clock may not tick between two writes.
+               const QByteArray padded = content + QByteArray(++writes, '\n');
+               return keptOpen.resize(0) && keptOpen.seek(0) && keptOpen.write(padded) == padded.size()
+                   && keptOpen.flush();
+           });
+    QTest::newRow("removed, then written") << Change([](TestDeviceFile &device, const QByteArray &content) {
+        return device.remove() && UTIL_GetMMCSDStatus() == 0 && device.write(content);
+    });
+    QTest::newRow("folder removed, then made again")
+        << Change([](TestDeviceFile &device, const QByteArray &content) {
+               const QString folder = device.dir().path();
+               return device.remove() && QDir(folder).removeRecursively() && UTIL_GetMMCSDStatus() == 0
+                   && QDir().mkdir(folder) && device.write(content);
+           });
+    // The link's folder shows nothing of what happens to its target.
+    QTest::newRow("target of a symbolic link rewritten")
+        << Change([](TestDeviceFile &device, const QByteArray &content) {
+               const QString target = device.dir().filePath(QStringLiteral("target.ini"));
+               if (!QFileInfo(device.path()).isSymLink()
+                   && !(device.remove() && QFile::link(QStringLiteral("target.ini"), device.path())))
+                   return false;
+               return device.writeTo(target, content);
+           });
+    QTest::newRow("another file named") << Change([](TestDeviceFile &device, const QByteArray &content) {
+        static int files = 0;
+        const QString other = device.dir().filePath(QStringLiteral("other%1.ini").arg(++files));
+        qputenv("KIVSIM_DEVICE", QFile::encodeName(other));
+        return device.writeTo(other, content);
+    });
+}
+
+void TestDevice::seesEveryWayOfChanging()
+{
+    QFETCH(Change, change);
+
+    QVERIFY(m_device.write("[card]\nstatus=1"));
+    QCOMPARE(UTIL_GetMMCSDStatus(), 1);
+    QVERIFY(change(m_device, "[card]\nstatus=2"));
+    QCOMPARE(UTIL_GetMMCSDStatus(), 2);
+    QVERIFY(change(m_device, "[card]\nstatus=3"));
+    QCOMPARE(UTIL_GetMMCSDStatus(), 3);
+}
+
+void TestDevice::seesAFolderMadeAgainWhileTheOldIsHeld()
+{
+    // A removed folder still held open (a shell's working folder, say) tells
+    // its watch nothing until let go.
+    const QString folder = m_device.dir().path();
+    QVERIFY(m_device.write("[card]\nstatus=1"));
+    QCOMPARE(UTIL_GetMMCSDStatus(), 1);
+    const int held = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
+    QVERIFY(held >= 0);
+    QVERIFY(m_device.remove());
+    QCOMPARE(UTIL_GetMMCSDStatus(), 0);
+    QVERIFY(QDir(folder).removeRecursively());
+    QCOMPARE(UTIL_GetMMCSDStatus(), 0);
+    QVERIFY(QDir().mkdir(folder) && m_device.write("[card]\nstatus=2"));
+    const int status = UTIL_GetMMCSDStatus();
+    ::close(held);
+    QCOMPARE(status, 2);
+}
+
+void TestDevice::forkedChildLeavesTheParentItsChanges()
+{
+    QVERIFY(m_device.write("[card]\nstatus=1"));
+    QCOMPARE(UTIL_GetMMCSDStatus(), 1);
+    const pid_t child = fork();
+    QVERIFY(child >= 0);
+    if (child == 0) {
+        // A new file, so that the parent's later writes cannot repeat its stamp.
+        const bool seen = m_device.replace("[card]\nstatus=2") && UTIL_GetMMCSDStatus() == 2;
+        _exit(seen ? 0 : 1);
+    }
+    int status = 0;
+    QCOMPARE(waitpid(child, &status, 0), child);
+    QVERIFY(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    QCOMPARE(UTIL_GetMMCSDStatus(), 2);
 }
 
 void TestDevice::warnsOncePerChange()
@@ -201,43 +323,6 @@ void TestDevice::emptyTextHoldsNoBuffer()
     QCOMPARE(QByteArray(text.c_str()), QByteArray("x"));
     text.assign(nullptr);
     QVERIFY(text.empty() && text.c_str() == nullptr);
-}
-
-void TestDevice::builtInIconsAreDistinct()
-{
-    QVERIFY(m_device.write(QByteArray()));
-    const char *const names[] = {
-        "fm_audio_thb.gif", "fm_audio_small.gif", "fm_pic_thb.gif", "fm_pic_small.gif",
-        "fm_vid_thb.gif", "fm_vid_small.gif", "fm_java_midlet_thb.gif", "fm_java_midlet_small.gif",
-        "msg_unsupport_type_thb.gif", "msg_unsupport_file_type_small.gif",
-        "Partial_Download_B.gif", "Partial_Download_S.gif", "Complete_Download_B.gif",
-        "Complete_Download_S.gif", "fm_voice_record_thb.gif", "fm_voice_record_small.gif",
-        "fm_text_thb.gif", "fm_text_small.gif", "fm_bkmrk_thb.gif", "fm_bkmrk_small.gif",
-        "fm_save_im_conv_thb.gif", "fm_save_im_conv_small.gif", "pfile_light_thb.gif",
-        "pfile_light_small.gif", "fm_vcf_thb.gif", "fm_vcf_small.gif", "fm_vcs_thb.gif",
-        "fm_vcs_small.gif", "msg_receipt_request_thb.gif", "msg_receipt_request_small.gif",
-        "gen_back_to_arrw_small.gif", "gen_back_to_arrw_thb.gif", "fm_invis_link_small.gif",
-        "fm_invis_link_thb.gif", "fm_unknown_small.gif", "fm_unknown_thb.gif",
-        "fm_folder_small.gif", "fm_folder_thb.gif", "fm_folder_carrier_small.gif",
-        "fm_folder_carrier_thb.gif", "fm_ringtone_folder_small.gif", "fm_ringtone_folder_thb.gif",
-        "fm_pict_folder_small.gif", "fm_pict_folder_thb.gif", "fm_audio_folder_small.gif",
-        "fm_audio_folder_thb.gif", "fm_vid_folder_small.gif", "fm_vid_folder_thb.gif",
-        "bc_small.gif", "bc_std.png", "fm_voice_record_folder_small.gif",
-        "fm_voice_record_folder_thb.gif", "fm_my_doc_folder_small.gif", "fm_my_doc_folder_thb.gif",
-        "fm_phone_mem_small.gif", "fm_memory_card_small.gif", "fm_memory_card_thb.gif",
-        "ctact_sim_small.gif", "ctact_sim_thb.gif", "info_pop.gif", "error_pop.gif",
-    };
-    RES_ICON_Reader reader;
-    QList<QImage> seen;
-    for (const char *name : names) {
-        const QImage image = reader.getIcon(name, true).toImage();
-        QVERIFY2(!image.isNull(), name);
-        QVERIFY2(!seen.contains(image), name);
-        seen.append(image);
-    }
-    QVERIFY(reader.getIcon("FM_PIC_THB.GIF", true).isNull()); // names are exact
-    QVERIFY(reader.getIcon("no_such_icon.gif", true).isNull());
-    QVERIFY(reader.getIcon("", true).isNull());
 }
 
 void TestDevice::iconFolderOfTheDevice()

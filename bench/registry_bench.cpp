@@ -1,0 +1,161 @@
+// The MIME registry as a folder listing uses it: every name is classified by
+// up to three type look-ups and one handler look-up of its extension, on a
+// phone that also answers from the system's MIME database. No journal.
+#include "AM_MimeRegistry.h"
+#include "UTIL_MMCSD.h"
+
+#include <QFile>
+#include <QMimeDatabase>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+
+namespace {
+
+const QByteArray device = R"([mime]
+mp3 = audio/mpeg
+jpg = image/jpeg
+3gp = video/3gpp
+txt = text/plain
+vcf = text/x-vcard
+jad = text/vnd.sun.j2me.app-descriptor
+[handlers]
+txt = com.kiv.notepad
+audio/* = com.kiv.player
+image/* = com.kiv.imageviewer
+video/* = com.kiv.videoplayer
+[registry]
+system = 1
+)";
+
+// A listing's mix: listed, system-known and unknown extensions, in both cases.
+const char *const listingNames[] = {
+    "song.mp3", "photo.jpg", "clip.3gp", "notes.txt", "card.vcf", "game.jad", "scan.png",
+    "movie.mp4", "paper.pdf", "SONG.MP3", "IMG_0001.JPG", "archive.tar", "data.qqzzy", "readme",
+};
+
+void mimeTypeListed(benchmark::State &state)
+{
+    AM_MimeRegistry registry;
+    const QString extension = QStringLiteral("mp3");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(registry.getAssociatedMimeType(extension));
+}
+BENCHMARK(mimeTypeListed);
+
+void mimeTypeListedOtherCase(benchmark::State &state)
+{
+    AM_MimeRegistry registry;
+    const QString extension = QStringLiteral("MP3");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(registry.getAssociatedMimeType(extension));
+}
+BENCHMARK(mimeTypeListedOtherCase);
+
+void mimeTypeFromSystem(benchmark::State &state)
+{
+    AM_MimeRegistry registry;
+    const QString extension = QStringLiteral("png");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(registry.getAssociatedMimeType(extension));
+}
+BENCHMARK(mimeTypeFromSystem);
+
+void handlerByExtension(benchmark::State &state)
+{
+    AM_MimeRegistry registry;
+    const QString extension = QStringLiteral("mp3");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(registry.getDefaultHandlerId(MIME_LOOKUP_BY_EXTENSION, extension, QString()));
+}
+BENCHMARK(handlerByExtension);
+
+// The cheapest platform call: little more than finding the current device
+// state. Calls in a row skip the look at the device file's folder.
+void deviceCheck(benchmark::State &state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(UTIL_GetMMCSDStatus());
+}
+BENCHMARK(deviceCheck);
+
+// The same after a pause long enough for the caller to have changed the
+// file, so that every call looks. Timed call by call (which adds a clock read).
+void deviceCheckAfterAPause(benchmark::State &state)
+{
+    using Clock = std::chrono::steady_clock;
+    for (auto _ : state) {
+        const Clock::time_point pauseEnd = Clock::now() + std::chrono::microseconds(2);
+        while (Clock::now() < pauseEnd) {
+        }
+        const Clock::time_point start = Clock::now();
+        benchmark::DoNotOptimize(UTIL_GetMMCSDStatus());
+        state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
+    }
+}
+BENCHMARK(deviceCheckAfterAPause)->UseManualTime();
+
+QStringList extensionsOfListing()
+{
+    QStringList extensions;
+    for (const char *name : listingNames) {
+        const QString fileName = QString::fromLatin1(name);
+        const qsizetype dot = fileName.lastIndexOf(u'.');
+        extensions.append(dot < 0 ? QString() : fileName.mid(dot + 1));
+    }
+    return extensions;
+}
+
+// What classifying one name costs the registry; the per-name figure is the
+// time divided by the names of the listing.
+void classifyListing(benchmark::State &state)
+{
+    AM_MimeRegistry registry;
+    const QStringList extensions = extensionsOfListing();
+    for (auto _ : state) {
+        for (const QString &extension : extensions) {
+            for (int ask = 0; ask < 3; ++ask)
+                benchmark::DoNotOptimize(registry.getAssociatedMimeType(extension));
+            benchmark::DoNotOptimize(registry.getDefaultHandlerId(MIME_LOOKUP_BY_EXTENSION, extension, QString()));
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * extensions.size());
+}
+BENCHMARK(classifyListing);
+
+// For comparison: asking the system's database directly, name by name.
+void systemDatabaseListing(benchmark::State &state)
+{
+    const QMimeDatabase database;
+    QStringList names;
+    for (const char *name : listingNames)
+        names.append(QString::fromLatin1(name));
+    for (auto _ : state) {
+        for (const QString &name : names)
+            benchmark::DoNotOptimize(database.mimeTypeForFile(name, QMimeDatabase::MatchExtension).name());
+    }
+    state.SetItemsProcessed(state.iterations() * names.size());
+}
+BENCHMARK(systemDatabaseListing);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QTemporaryDir dir;
+    QFile file(dir.filePath(QStringLiteral("device.ini")));
+    if (!dir.isValid() || !file.open(QIODevice::WriteOnly) || file.write(device) != device.size())
+        return 1;
+    file.close();
+    qputenv("KIVSIM_DEVICE", QFile::encodeName(file.fileName()));
+    qunsetenv("KIVSIM_JOURNAL");
+
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

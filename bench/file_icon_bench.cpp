@@ -109,6 +109,16 @@ void standardIconsAtStartUp(benchmark::State &state)
 }
 BENCHMARK(standardIconsAtStartUp)->Unit(benchmark::kMillisecond);
 
+// The context's whole start-up: the partition scan and the standard icons.
+void contextInitialisation(benchmark::State &state)
+{
+    for (auto _ : state) {
+        TAMBRO_Global::initMemFlag = false;
+        TAMBRO_Global::initMem(0);
+    }
+}
+BENCHMARK(contextInitialisation)->Unit(benchmark::kMillisecond);
+
 void cachedIcon(benchmark::State &state)
 {
     const QString name = QStringLiteral("fm_audio_small.gif");

@@ -2,11 +2,30 @@
 
 #include <QMimeDatabase>
 
+#include <algorithm>
+
 namespace KivSim {
+
+namespace {
+
+// Extensions are short words; a name without a dot ("Photo 001") reaches the
+// registry whole and is no extension. Asking the database about such names
+// costs a glob match each, tens of microseconds, since every one is new.
+bool isPlausibleExtension(const QString &text)
+{
+    constexpr qsizetype longestExtension = 12;
+    if (text.isEmpty() || text.size() > longestExtension)
+        return false;
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) {
+        return c.isLetterOrNumber() || c == u'_' || c == u'-' || c == u'+' || c == u'~';
+    });
+}
+
+} // namespace
 
 QString SystemMimeDatabase::typeOf(const QString &extension) const
 {
-    if (extension.isEmpty() || extension.contains(u'/'))
+    if (!isPlausibleExtension(extension))
         return QString();
     const QMimeType type = QMimeDatabase().mimeTypeForFile(QStringLiteral("file.") + extension,
                                                            QMimeDatabase::MatchExtension);

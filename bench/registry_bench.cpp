@@ -36,32 +36,16 @@ const char *const listingNames[] = {
     "movie.mp4", "paper.pdf", "SONG.MP3", "IMG_0001.JPG", "archive.tar", "data.qqzzy", "readme",
 };
 
-void mimeTypeListed(benchmark::State &state)
+void mimeType(benchmark::State &state, const char *asked)
 {
     AM_MimeRegistry registry;
-    const QString extension = QStringLiteral("mp3");
+    const QString extension = QString::fromLatin1(asked);
     for (auto _ : state)
         benchmark::DoNotOptimize(registry.getAssociatedMimeType(extension));
 }
-BENCHMARK(mimeTypeListed);
-
-void mimeTypeListedOtherCase(benchmark::State &state)
-{
-    AM_MimeRegistry registry;
-    const QString extension = QStringLiteral("MP3");
-    for (auto _ : state)
-        benchmark::DoNotOptimize(registry.getAssociatedMimeType(extension));
-}
-BENCHMARK(mimeTypeListedOtherCase);
-
-void mimeTypeFromSystem(benchmark::State &state)
-{
-    AM_MimeRegistry registry;
-    const QString extension = QStringLiteral("png");
-    for (auto _ : state)
-        benchmark::DoNotOptimize(registry.getAssociatedMimeType(extension));
-}
-BENCHMARK(mimeTypeFromSystem);
+BENCHMARK_CAPTURE(mimeType, listed, "mp3");
+BENCHMARK_CAPTURE(mimeType, listedOtherCase, "MP3");
+BENCHMARK_CAPTURE(mimeType, fromSystem, "png");
 
 void handlerByExtension(benchmark::State &state)
 {

@@ -37,11 +37,6 @@ QString rootPathFromEnvironment()
     return root;
 }
 
-QString absoluteFolderPath(const QString &relativePath)
-{
-    return TAMBRO_FixedFolder::m_sFMRootPath + relativePath;
-}
-
 QString relativeFolderPath(const QString &absolutePath)
 {
     const QString &root = TAMBRO_FixedFolder::m_sFMRootPath;

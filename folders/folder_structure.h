@@ -2,6 +2,8 @@
 // process-wide state behind TAMBRO_FixedFolder.
 #pragma once
 
+#include "TAMBRO_FixedFolder.h"
+
 #include <QString>
 
 class ZConfig;
@@ -21,8 +23,12 @@ QString rootPathFromEnvironment();
 const ZConfig &folderStructure();
 
 // The root followed by the relative path exactly as given: blanks that
-// surround a value in the file are part of the folder's name.
-QString absoluteFolderPath(const QString &relativePath);
+// surround a value in the file are part of the folder's name. Inline, so
+// that the tools showing the structure use the same rule.
+inline QString absoluteFolderPath(const QString &relativePath)
+{
+    return TAMBRO_FixedFolder::m_sFMRootPath + relativePath;
+}
 // The path without its first root-length characters when the root occurs
 // in it anywhere (not necessarily at its start); null otherwise.
 QString relativeFolderPath(const QString &absolutePath);

@@ -49,7 +49,7 @@ QList<KeyWord> readKeyWords(const ZConfig &structure)
         QMap<QString, QString> entries;
         structure.getGroupEntriesKeyList(QLatin1String(group), entries);
         for (auto it = entries.cbegin(); it != entries.cend(); ++it) {
-            const QString path = TAMBRO_FixedFolder::m_sFMRootPath + it.value();
+            const QString path = Tambro::absoluteFolderPath(it.value());
             keyWords.append({it.key(), pseudo, it.value(), path, isFolder(path)});
         }
     }

@@ -4,7 +4,8 @@
 #
 #   kivsim_smoke.sh KIVSIM SAMPLE_DEVICE GROUP
 #
-# GROUP is one of: layout, isolation, exit_status, usage, odd_devices, journal.
+# GROUP is one of: layout, isolation, exit_status, usage, odd_devices, journal,
+# escapes, host_untouched, signals.
 
 set -u
 kivsim=$1
@@ -146,15 +147,89 @@ phone_size = 8K')
 }
 
 test_journal() {
-    # The journal's folder is shared with the host, even under the hidden /tmp.
-    KIVSIM_JOURNAL="$work/journal/calls.jsonl" on "$sample" \
-        'echo "{\"call\":\"test\"}" >>"$KIVSIM_JOURNAL"' || fail "writing the journal: $(cat "$work/stderr")"
-    [ "$(cat "$work/journal/calls.jsonl" 2>/dev/null)" = '{"call":"test"}' ] ||
-        fail "the journal did not land on the host"
+    # Only the journal file is shared: neither its folder (here the working
+    # folder) nor the rest of /tmp becomes writable.
+    mkdir -p "$work/cwd" && cd "$work/cwd" || exit 1
+    KIVSIM_JOURNAL=calls.jsonl on "$sample" 'echo "{\"call\":\"test\"}" >>"$KIVSIM_JOURNAL";
+            touch beside "$(dirname "$KIVSIM_JOURNAL")/other"' 2>/dev/null
+    [ "$(cat calls.jsonl 2>/dev/null)" = '{"call":"test"}' ] || fail "the journal did not land on the host"
+    [ -z "$(ls "$work/cwd" | grep -v calls.jsonl)" ] || fail "the journal's folder is writable"
+}
+
+# A device folder whose entries lead to the host through symbolic links.
+test_escapes() {
+    echo original >"$work/host-file"
+    mkdir -p "$work/host-folder"
+    local device entry
+    for entry in 'mtab = evil.mtab' 'mtab = dirlink/newdir/x.mtab' 'mtab = up/x.mtab' card; do
+        device=$(make_device escape "[sandbox]
+card_size = 1M
+$entry")
+        ln -sfn "$work/host-file" "$device/evil.mtab"
+        ln -sfn "$work/host-folder" "$device/dirlink"
+        ln -sfn .. "$device/up"
+        ln -sfn "$work/host-folder" "$device/card"
+        expect_status 125 "$entry" on "$device" 'echo changed >/etc/mtab'
+        grep -q "leads out of the device folder" "$work/stderr" || fail "$entry: no clear message"
+        rm -rf "$device"
+    done
+    [ "$(cat "$work/host-file")" = original ] || fail "a host file was overwritten"
+    [ -z "$(ls "$work/host-folder")" ] || fail "something was made in a host folder"
+
+    # Links that stay inside the device folder are followed.
+    device=$(make_device inside '[sandbox]
+mtab = current.mtab')
+    mkdir "$device/tables" && echo "/dev/x /mmc/mmca1 vfat rw 0 0" >"$device/tables/a.mtab"
+    ln -s tables/../tables/a.mtab "$device/current.mtab"
+    [ "$(on "$device" 'cat /etc/mtab')" = "/dev/x /mmc/mmca1 vfat rw 0 0" ] ||
+        fail "a link inside the device folder was not followed: $(cat "$work/stderr")"
+}
+
+# kivsim makes nothing on the host but its device copy, and removes that.
+test_host_untouched() {
+    local value device
+    for value in / /usr /etc /tmp /mmc /mmc/mmca1 /kivlocal/download/tambro/apps /run/kivsim; do
+        device=$(make_device write "[sandbox]
+write_path = $value")
+        expect_status 125 "write_path $value" on "$device" true
+        grep -qF "write_path \"$value\"" "$work/stderr" || fail "write_path $value: not named"
+    done
+    expect_status 2 "--share /run" "$kivsim" --share /run -- true 2>/dev/null
+    [ -e /run/kivsim ] && fail "/run/kivsim exists before the runs"
+    mkdir -p "$work/tmp"
+    TMPDIR=$work/tmp XDG_RUNTIME_DIR=/run "$kivsim" --device "$sample" -- \
+        sh -c 'touch "$XDG_RUNTIME_DIR/made-here"' 2>/dev/null || fail "run with XDG_RUNTIME_DIR=/run"
+    [ -e /run/kivsim ] && fail "/run/kivsim was made on the host"
+
+    # A copy holding names that are not UTF-8 and read-only folders goes too.
+    device=$(make_device names '[sandbox]
+phone_size = 1M')
+    mkdir -p "$device/phone/locked" && touch "$device/phone/locked/"$'caf\xe9.mp3'
+    chmod 555 "$device/phone/locked"
+    TMPDIR=$work/tmp "$kivsim" --device "$device" -- sh -c 'mkdir -m 500 /run/kivsim/device/x' 2>/dev/null
+    chmod 755 "$device/phone/locked"
+    [ -z "$(ls -A "$work/tmp")" ] || fail "device copies left behind: $(ls -A "$work/tmp")"
+}
+
+# A signal to kivsim ends the whole sandboxed process tree.
+test_signals() {
+    local signal pid
+    for signal in TERM INT; do
+        "$kivsim" --device "$sample" -- sh -c 'sleep 86397 & sleep 86397 & wait' &
+        pid=$!
+        for _ in $(seq 50); do pgrep -x -f 'sleep 86397' >/dev/null && break; sleep 0.1; done
+        kill -s "$signal" "$pid"
+        wait "$pid"
+        sleep 0.2
+        pgrep -x -f 'sleep 86397' >/dev/null && fail "SIG$signal left the command's children running"
+        pkill -x -f 'sleep 86397'
+    done
 }
 
 case $group in
-layout | isolation | exit_status | usage | odd_devices | journal) "test_$group" ;;
+layout | isolation | exit_status | usage | odd_devices | journal | escapes | host_untouched | signals)
+    "test_$group"
+    ;;
 *)
     echo "unknown group $group"
     exit 2

@@ -44,13 +44,23 @@ BwrapCommand::BwrapCommand(const QString &deviceCopy, const SandboxSettings &set
 {
 }
 
-void BwrapCommand::revealHostPath(const QString &path, Access access)
+QString BwrapCommand::revealHostPath(const QString &path, Access access)
 {
     const QString cleaned = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     if (access == Access::ReadOnly && !sandboxHides(cleaned))
-        return;
+        return QString();
+    const QString clash = PhoneLayout::clashWithPhone(cleaned, phonePlaces());
+    if (!clash.isEmpty())
+        return clash;
     if (m_revealed.value(cleaned, Access::ReadOnly) == Access::ReadOnly)
         m_revealed.insert(cleaned, access);
+    return QString();
+}
+
+void BwrapCommand::useOwnRuntimeFolder()
+{
+    m_ownRuntimeFolder = true;
+    setEnvironment(QStringLiteral("XDG_RUNTIME_DIR"), PhoneLayout::runtimeFolder);
 }
 
 void BwrapCommand::setEnvironment(const QString &name, const QString &value)
@@ -67,11 +77,12 @@ void BwrapCommand::setWorkingDirectory(const QString &path)
 QStringList BwrapCommand::arguments(const QStringList &command) const
 {
     // The sandbox's own root holds only folders made for the mounts: read-only
-    // like the host, so that nothing written can get lost there. Host folders
-    // are revealed before the phone is laid out, so that a revealed folder
-    // such as XDG_RUNTIME_DIR=/run cannot hide the phone's own mounts.
-    return QStringList{QStringLiteral("--die-with-parent")} + hostArguments() + revealArguments()
-        + deviceArguments() + storageArguments()
+    // like the host, so that nothing written can get lost there. Revealed
+    // host paths never overlap the phone's places, so bwrap makes no mount
+    // point in a host folder. In a namespace of its own the command's whole
+    // process tree ends with bwrap, which dies with kivsim.
+    return QStringList{QStringLiteral("--unshare-pid"), QStringLiteral("--die-with-parent")}
+        + hostArguments() + revealArguments() + deviceArguments() + storageArguments()
         + QStringList{QStringLiteral("--remount-ro"), QStringLiteral("/")} + processArguments()
         + QStringList{QStringLiteral("--"), QStringLiteral("/bin/sh"), QStringLiteral("-c"),
                       fillScript(), QStringLiteral("kivsim")}
@@ -79,24 +90,19 @@ QStringList BwrapCommand::arguments(const QStringList &command) const
 }
 
 // Everything the phone puts in place of the host; the host makes room for it.
-QStringList BwrapCommand::phonePaths() const
+QStringList BwrapCommand::phonePlaces() const
 {
-    QStringList paths = {PhoneLayout::deviceFolder, PhoneLayout::mountTable};
-    for (const PhoneLayout::SystemFolder &folder : PhoneLayout::systemFolders())
-        paths << folder.mountPoint;
-    // Also the mount points of storages this phone lacks: they stay absent.
-    for (const PhoneLayout::Storage &storage : PhoneLayout::allStorages(m_settings))
-        paths << storage.mountPoint;
+    QStringList places = PhoneLayout::fixedPlaces(m_settings);
     const QString writeFolder = folderOf(m_settings.writePath);
     if (!writeFolder.isEmpty())
-        paths << writeFolder;
-    return paths;
+        places << writeFolder;
+    return places;
 }
 
 // The host, read-only, with /etc and /usr rebuilt so that the phone's files fit in.
 QStringList BwrapCommand::hostArguments() const
 {
-    const QStringList phone = phonePaths();
+    const QStringList phone = phonePlaces();
     QStringList arguments = mirrorHostFolder(QStringLiteral("/"),
                                              replacedRootEntries + entriesUsedIn(QStringLiteral("/"), phone));
     arguments << QStringLiteral("--proc") << QStringLiteral("/proc") << QStringLiteral("--dev")
@@ -131,6 +137,9 @@ QStringList BwrapCommand::storageArguments() const
     const QString writeFolder = folderOf(m_settings.writePath);
     if (!writeFolder.isEmpty())
         arguments << QStringLiteral("--tmpfs") << writeFolder;
+    if (m_ownRuntimeFolder)
+        arguments << QStringLiteral("--perms") << QStringLiteral("0700") << QStringLiteral("--tmpfs")
+                  << PhoneLayout::runtimeFolder;
     return arguments;
 }
 
@@ -169,9 +178,6 @@ QString BwrapCommand::fillScript() const
                      .arg(shellQuote(source), shellQuote(storage.mountPoint),
                           shellQuote(storage.description));
     }
-    // Qt wants a private runtime folder; without one from the host, make one.
-    lines << QStringLiteral("[ -n \"${XDG_RUNTIME_DIR:-}\" ] || { export XDG_RUNTIME_DIR=/tmp/runtime; "
-                            "mkdir -m 0700 \"$XDG_RUNTIME_DIR\"; }");
     lines << QStringLiteral("exec \"$@\"");
     return lines.join(u'\n');
 }

@@ -2,6 +2,7 @@
 // folder describes (see docs/devices.md).
 
 #include "bwrapcommand.h"
+#include "confinedpath.h"
 #include "devicecopy.h"
 #include "exitcodes.h"
 #include "phonelayout.h"
@@ -15,10 +16,16 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QTemporaryDir>
+#include <QFile>
 #include <QTextStream>
 
+#include <cerrno>
+#include <cstring>
 #include <optional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -106,33 +113,88 @@ SandboxSettings readSettings(const QString &deviceFolder)
     return settings;
 }
 
-bool prepareCopy(const QString &deviceFolder, const QString &copy,
-                 const SandboxSettings &settings)
+// Only blanks are refused by the settings: a write folder must also keep
+// clear of the phone's places, or it would hide them or lift a storage's limit.
+bool writeFolderFits(const SandboxSettings &settings)
 {
-    QString error;
-    if (!copyDeviceFolder(deviceFolder, copy, error)) {
-        err() << "kivsim: cannot copy the device folder: " << error << Qt::endl;
+    const QString folder = folderOf(settings.writePath);
+    const QString clash =
+        folder.isEmpty() ? QString()
+                         : PhoneLayout::clashWithPhone(folder, PhoneLayout::fixedPlaces(settings));
+    if (clash.isEmpty())
+        return true;
+    err() << "kivsim: write_path \"" << settings.writePath << "\" cannot be used: " << clash
+          << Qt::endl;
+    return false;
+}
+
+// The entries the sandbox binds or fills from must lie in the copy: a link to
+// the host would let the command write host files through /etc/mtab. The
+// mount table is then named by its resolved path.
+bool confineDeviceEntries(const QString &copy, SandboxSettings &settings)
+{
+    for (const QString &entry : PhoneLayout::deviceEntries(settings)) {
+        QString error;
+        const std::optional<QString> resolved = resolveInside(copy, entry, error);
+        if (!resolved) {
+            err() << "kivsim: cannot use the device folder: " << error << Qt::endl;
+            return false;
+        }
+        if (entry == settings.mountTable)
+            settings.mountTable = QDir(copy).relativeFilePath(*resolved);
+    }
+    return true;
+}
+
+bool prepareCopy(const QString &deviceFolder, DeviceCopy &copy, SandboxSettings &settings)
+{
+    if (!copy.fill(deviceFolder)) {
+        err() << "kivsim: cannot copy the device folder: " << copy.error() << Qt::endl;
         return false;
     }
-    if (!ensureMountTable(copy, settings.mountTable))
-        err() << "kivsim: warning: the device folder has no mount table \"" << settings.mountTable
+    const QString mountTable = settings.mountTable;
+    if (!confineDeviceEntries(copy.path(), settings))
+        return false;
+    if (!ensureMountTable(QDir(copy.path()).filePath(settings.mountTable)))
+        err() << "kivsim: warning: the device folder has no mount table \"" << mountTable
               << "\"; " << PhoneLayout::mountTable << " starts empty" << Qt::endl;
     return true;
 }
 
-// The journal of platform calls lands on the host: its folder is shared.
+// Makes the journal file when missing: only the file is shared, so that the
+// command can write nothing else beside it. On failure error says why.
+void createJournal(const QString &path, QString &error)
+{
+    if (!QDir().mkpath(QFileInfo(path).path())) {
+        error = QStringLiteral("cannot create its folder");
+        return;
+    }
+    const int fd = ::open(QFile::encodeName(path).constData(),
+                          O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK | O_CLOEXEC, 0644);
+    struct stat info;
+    if (fd < 0)
+        error = QString::fromLocal8Bit(std::strerror(errno));
+    else if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))
+        error = QStringLiteral("not a regular file");
+    if (fd >= 0)
+        ::close(fd);
+}
+
+// The journal of platform calls lands on the host, at the path given.
 bool shareJournal(BwrapCommand &command)
 {
     const QString journal = qEnvironmentVariable("KIVSIM_JOURNAL");
     if (journal.isEmpty())
         return true;
-    const QFileInfo file(journal);
-    if (!QDir().mkpath(file.absolutePath())) {
-        err() << "kivsim: cannot create the journal's folder " << file.absolutePath() << Qt::endl;
+    const QString path = QDir::cleanPath(QFileInfo(journal).absoluteFilePath());
+    QString error = command.revealHostPath(path, BwrapCommand::Access::ReadWrite);
+    if (error.isEmpty())
+        createJournal(path, error);
+    if (!error.isEmpty()) {
+        err() << "kivsim: cannot use the journal " << path << ": " << error << Qt::endl;
         return false;
     }
-    command.revealHostPath(file.absolutePath(), BwrapCommand::Access::ReadWrite);
-    command.setEnvironment(QStringLiteral("KIVSIM_JOURNAL"), file.absoluteFilePath());
+    command.setEnvironment(QStringLiteral("KIVSIM_JOURNAL"), path);
     return true;
 }
 
@@ -147,19 +209,35 @@ bool canShare(const QStringList &folders)
     return true;
 }
 
-void shareFolders(BwrapCommand &command, const QStringList &folders)
+bool shareFolders(BwrapCommand &command, const QStringList &folders)
 {
-    for (const QString &folder : folders)
-        command.revealHostPath(folder, BwrapCommand::Access::ReadWrite);
+    for (const QString &folder : folders) {
+        const QString clash = command.revealHostPath(folder, BwrapCommand::Access::ReadWrite);
+        if (!clash.isEmpty()) {
+            err() << "kivsim: cannot share " << folder << ": " << clash << Qt::endl;
+            return false;
+        }
+    }
+    return true;
 }
 
+// The desktop's X11 sockets and the session's runtime folder, so that the
+// command can open windows; a runtime folder that cannot be shared is
+// replaced by one of the sandbox's own.
 void shareWindowSystem(BwrapCommand &command)
 {
+    if (QFileInfo(QStringLiteral("/tmp/.X11-unix")).isDir())
+        command.revealHostPath(QStringLiteral("/tmp/.X11-unix"), BwrapCommand::Access::ReadWrite);
     const QString runtimeDir = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    for (const QString &path : {QStringLiteral("/tmp/.X11-unix"), runtimeDir}) {
-        if (!path.isEmpty() && QFileInfo(path).isDir())
-            command.revealHostPath(path, BwrapCommand::Access::ReadWrite);
-    }
+    QString clash = QStringLiteral("no such folder");
+    if (!runtimeDir.isEmpty() && QFileInfo(runtimeDir).isDir())
+        clash = command.revealHostPath(runtimeDir, BwrapCommand::Access::ReadWrite);
+    if (clash.isEmpty())
+        return;
+    if (!runtimeDir.isEmpty())
+        err() << "kivsim: warning: XDG_RUNTIME_DIR=" << runtimeDir << " is not shared: " << clash
+              << "; the command gets a runtime folder of its own" << Qt::endl;
+    command.useOwnRuntimeFolder();
 }
 
 void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
@@ -185,21 +263,25 @@ int main(int argc, char *argv[])
     const std::optional<Invocation> invocation = parseArguments(app.arguments());
     if (!invocation || !isDeviceFolder(invocation->deviceFolder) || !canShare(invocation->shared))
         return ExitCode::Usage;
-    const SandboxSettings settings = readSettings(invocation->deviceFolder);
+    SandboxSettings settings = readSettings(invocation->deviceFolder);
+    if (!writeFolderFits(settings))
+        return ExitCode::SetupFailed;
 
-    QTemporaryDir copy(QDir::tempPath() + QStringLiteral("/kivsim-device-XXXXXX"));
-    if (!copy.isValid()) {
-        err() << "kivsim: cannot create a temporary folder: " << copy.errorString() << Qt::endl;
+    DeviceCopy copy;
+    if (copy.path().isEmpty()) {
+        err() << "kivsim: cannot create a temporary folder: " << copy.error() << Qt::endl;
         return ExitCode::SetupFailed;
     }
-    copy.setAutoRemove(!invocation->keep);
-    if (!prepareCopy(invocation->deviceFolder, copy.path(), settings))
+    if (invocation->keep)
+        copy.keep();
+    if (!prepareCopy(invocation->deviceFolder, copy, settings))
         return ExitCode::SetupFailed;
 
     BwrapCommand command(copy.path(), settings);
+    if (!shareFolders(command, invocation->shared))
+        return ExitCode::Usage;
     if (!shareJournal(command))
         return ExitCode::SetupFailed;
-    shareFolders(command, invocation->shared);
     shareWindowSystem(command);
     setUpProcess(command, settings, invocation->command);
 

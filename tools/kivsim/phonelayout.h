@@ -6,11 +6,16 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace PhoneLayout {
 
+// kivsim's own folder inside: the device copy and, when the host shares none,
+// the runtime folder.
+inline const QString kivsimFolder = QStringLiteral("/run/kivsim");
 inline const QString deviceFolder = QStringLiteral("/run/kivsim/device");
 inline const QString deviceFile = QStringLiteral("/run/kivsim/device/device.ini");
+inline const QString runtimeFolder = QStringLiteral("/run/kivsim/runtime");
 inline const QString mountTable = QStringLiteral("/etc/mtab");
 inline const QString preloadRoot = QStringLiteral("/usr/data_resource");
 inline const QString systemConfigFolder = QStringLiteral("/usr/SYSqtapp/tambro");
@@ -37,5 +42,19 @@ struct SystemFolder
     QString mountPoint;
 };
 QList<SystemFolder> systemFolders();
+
+// The device folder's entries that the sandbox shows or fills from: the mount
+// table file and the content folders, relative to the device folder.
+QStringList deviceEntries(const SandboxSettings &settings);
+
+// The phone's fixed places inside, the storages' mount points among them even
+// where the device lacks the storage: they stay absent then. Without the
+// write folder, which is placed among them.
+QStringList fixedPlaces(const SandboxSettings &settings);
+
+// Why nothing of the host can be shown at path without breaking the phone:
+// the path is one of the sandbox's own folders (/, /tmp, /run, ...), or it is,
+// holds or lies in one of the places. Empty when it can be shown.
+QString clashWithPhone(const QString &path, const QStringList &places);
 
 } // namespace PhoneLayout

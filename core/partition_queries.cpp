@@ -51,7 +51,8 @@ const PartitionInfo *entryOfType(int deviceType)
 int TAMBRO_Global::getPartiActNumber()
 {
     initMem(0);
-    const int count = partitionTable()->count();
+    // No table although initialised: a client set initMemFlag before any scan.
+    const int count = partitionTable() ? partitionTable()->count() : 0;
     return (count >= 1 && count <= MaxPartitions) ? count : 0;
 }
 
@@ -137,7 +138,7 @@ bool TAMBRO_Global::isDeviceMounted(int deviceType)
 bool TAMBRO_Global::isDeviceMounted(const char *deviceName)
 {
     initMem(0);
-    return deviceName && partitionTable()->findByDeviceName(deviceName);
+    return deviceName && partitionTable() && partitionTable()->findByDeviceName(deviceName);
 }
 
 bool TAMBRO_Global::hasMMCSDCard(bool)
@@ -153,9 +154,13 @@ QString TAMBRO_Global::getMountedPath(int deviceType)
         return QString();
     // Looked up before initialising: without a table there is no path yet.
     const PartitionInfo *entry = entryOfType(deviceType);
-    if (!entry || entry->number > instance()->getPartiActNumber())
+    if (!entry)
         return QString();
-    return getPartiName(entry->number);
+    // Kept by value: instance() may rescan, which replaces the table's entries.
+    const int number = entry->number;
+    if (number > instance()->getPartiActNumber())
+        return QString();
+    return getPartiName(number);
 }
 
 QString TAMBRO_Global::getDefaultMMCSDPartition()

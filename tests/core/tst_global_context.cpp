@@ -74,6 +74,29 @@ private Q_SLOTS:
         QCOMPARE(TAMBRO_Global::getMountedPath(2), QStringLiteral("/mmc/mmca1"));
     }
 
+    // A client may set the public flag before the first scan: no table then.
+    void flagSetBeforeAnyScanAnswersNeutrally()
+    {
+        TAMBRO_Global::initMemFlag = true;
+        QCOMPARE(TAMBRO_Global::getPartiActNumber(), 0);
+        QVERIFY(!TAMBRO_Global::isDeviceMounted("/dev/mmca1"));
+        QVERIFY(!TAMBRO_Global::isDeviceMounted(2));
+        QVERIFY(TAMBRO_Global::getDefaultMMCSDPartition().isNull());
+        QVERIFY(TAMBRO_Global::getPartiShortName(1).isNull());
+        QCOMPARE(scansJournalled(), 0);
+    }
+
+    // The look-up comes before instance(), whose rescan of a grown mount
+    // table replaces the entries of the first, small one.
+    void mountedPathSurvivesTheRescanItStarts()
+    {
+        TestPhone::setMountTable("/dev/mtdblock5 /kivlocal/download/tambro jffs2 rw 0 0\n");
+        QCOMPARE(TAMBRO_Global::getPartiActNumber(), 1);
+        TestPhone::setMountTable(PhoneAndCard + "/dev/b /mmc/megasim1 vfat rw 0 0\n" + PhoneAndCard);
+        TAMBRO_Global::initMemFlag = false;
+        QCOMPARE(TAMBRO_Global::getMountedPath(0), QStringLiteral("/kivlocal/download/tambro"));
+    }
+
     void labelAndLockBuildOnlyAMissingTable()
     {
         QCOMPARE(TAMBRO_Global::getPartiLabel(1), QStringLiteral("/kivlocal/d"));

@@ -2,12 +2,18 @@
 
 #include "megasim_name.h"
 #include "partition_table.h"
+#include "regular_file.h"
 #include "translation.h"
 
 #include <UTIL_MMCSD.h>
 
+#include <QLoggingCategory>
+
 #include <cstring>
 #include <mntent.h>
+#include <vector>
+
+Q_LOGGING_CATEGORY(lcMounts, "kivtambro.partitions", QtWarningMsg)
 
 namespace Tambro {
 
@@ -77,12 +83,18 @@ void addFixedEntry(PartitionTable &table, DeviceType type, const QString &displa
 
 } // namespace
 
-void readMountRecords(FILE *mountTable, PartitionTable &table)
+void readMountRecords(const QByteArray &text, PartitionTable &table)
 {
+    if (text.isEmpty())
+        return;
+    FILE *mountTable = fmemopen(const_cast<char *>(text.constData()), size_t(text.size()), "r");
+    if (!mountTable)
+        return;
+    // As long as the whole text: the reader cuts a line at the buffer's end.
+    std::vector<char> buffer(size_t(text.size()) + 2);
     bool phoneListed = false;
     mntent record;
-    char buffer[4096];
-    while (getmntent_r(mountTable, &record, buffer, sizeof buffer)) {
+    while (getmntent_r(mountTable, &record, buffer.data(), int(buffer.size()))) {
         const QByteArray device = record.mnt_fsname;
         const QByteArray dir = record.mnt_dir;
         // Only the first record of the phone area counts.
@@ -97,15 +109,19 @@ void readMountRecords(FILE *mountTable, PartitionTable &table)
             addFixedEntry(table, MegaSim, readMegaSimName(), device, dir);
         }
     }
+    endmntent(mountTable);
 }
 
 void scanMounts(PartitionTable &table)
 {
     table.clear();
-    FILE *mountTable = setmntent("/etc/mtab", "r");
-    if (mountTable)
-        readMountRecords(mountTable, table);
-    endmntent(mountTable);
+    const FileContent mountTable =
+        readRegularFile(QString::fromLatin1(MountTablePath), MaxMountTableBytes);
+    if (mountTable.status == FileContent::Read)
+        readMountRecords(mountTable.data, table);
+    else if (!mountTable.problem.isEmpty())
+        qCWarning(lcMounts).noquote() << "the mount table" << MountTablePath << mountTable.problem
+                                      << "and is not read: no storage is listed from it";
 
     // A card the driver reports as inserted is listed even when not mounted.
     if (UTIL_GetMMCSDStatus() == 1 && !table.findByType(MemoryCard))

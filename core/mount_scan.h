@@ -1,7 +1,7 @@
 // Fills the partition table from the mount table and the memory card driver.
 #pragma once
 
-#include <cstdio>
+#include <QByteArray>
 
 namespace Tambro {
 
@@ -12,10 +12,16 @@ inline constexpr char PhoneMountPoint[] = "/kivlocal/download/tambro";
 inline constexpr char CardMountPoint[] = "/mmc/mmca1";
 inline constexpr char MegaSimMountPoint[] = "/mmc/megasim1";
 
+inline constexpr char MountTablePath[] = "/etc/mtab";
+// A phone's mount table holds a few dozen lines; a larger file is refused
+// whole, with a warning, as is anything but a regular file (a FIFO would
+// block the scan for ever).
+inline constexpr qint64 MaxMountTableBytes = 1 << 20;
+
 // Rebuilds the table from "/etc/mtab" and the card driver's report.
 void scanMounts(PartitionTable &table);
 
-// Adds the partitions that the records of an open mount table name.
-void readMountRecords(FILE *mountTable, PartitionTable &table);
+// Adds the partitions that the records of a mount table's text name.
+void readMountRecords(const QByteArray &mountTable, PartitionTable &table);
 
 } // namespace Tambro

@@ -30,7 +30,7 @@ QString readNumber(const QString &value, qint64 min, qint64 max, qint64 &out)
 {
     const std::optional<qint64> number = KeyFile::toNumber(value);
     if (!number)
-        return QStringLiteral("\"%1\" is not a number (decimal or 0x hex)").arg(value.trimmed());
+        return QStringLiteral("%1 is not a number (decimal or 0x hex)").arg(KeyFile::quoted(value.trimmed()));
     if (*number < min || *number > max)
         return QStringLiteral("%1 is not between %2 and %3").arg(*number).arg(min).arg(max);
     out = *number;
@@ -132,22 +132,19 @@ bool isFixedSection(const QString &section)
 class StateReader
 {
 public:
-    StateReader(const QString &origin, QStringList &warnings)
-        : m_origin(origin), m_warnings(warnings)
-    {
-    }
+    explicit StateReader(const QString &origin) : m_log(origin) {}
 
     void readFixed(const KeyFile::Section &section, DeviceState &state);
     void readFlexBits(const KeyFile::Section &section, DeviceState &state);
     // [mime] and [handlers]: free keys; values are trimmed and an empty one lists nothing.
     KeyFile::Section readMap(const KeyFile::Section &section);
     void warnUnknownSection(const KeyFile::Section &section);
+    QStringList warnings() const { return m_log.lines(); }
 
 private:
     void warn(const KeyFile::Section &section, const KeyFile::Entry &entry, const QString &why);
 
-    QString m_origin;
-    QStringList &m_warnings;
+    WarningLog m_log;
 };
 
 void StateReader::readFixed(const KeyFile::Section &section, DeviceState &state)
@@ -195,19 +192,16 @@ KeyFile::Section StateReader::readMap(const KeyFile::Section &section)
 
 void StateReader::warnUnknownSection(const KeyFile::Section &section)
 {
-    m_warnings.append(QStringLiteral("%1:%2: unknown section [%3]; ignored")
-                          .arg(m_origin)
-                          .arg(section.line)
-                          .arg(section.name));
+    m_log.add(section.line, QStringLiteral("unknown section [%1]; ignored")
+                                .arg(KeyFile::shortened(section.name)));
 }
 
 void StateReader::warn(const KeyFile::Section &section, const KeyFile::Entry &entry,
                        const QString &why)
 {
-    m_warnings.append(QStringLiteral("%1:%2: [%3] %4: %5")
-                          .arg(m_origin)
-                          .arg(entry.line)
-                          .arg(section.name, entry.key, why));
+    m_log.add(entry.line, QStringLiteral("[%1] %2: %3")
+                              .arg(KeyFile::shortened(section.name), KeyFile::shortened(entry.key),
+                                   why));
 }
 
 // Builds the state from the parsed device file at path (which names it in
@@ -216,7 +210,7 @@ void StateReader::warn(const KeyFile::Section &section, const KeyFile::Entry &en
 DeviceState deviceStateFrom(const KeyFile &file, const QString &path, QStringList &warnings)
 {
     DeviceState state;
-    StateReader reader(path, warnings);
+    StateReader reader(path);
     KeyFile::Section mimeTypes;
     KeyFile::Section handlers;
     for (const KeyFile::Section &section : file.sections()) {
@@ -238,6 +232,7 @@ DeviceState deviceStateFrom(const KeyFile &file, const QString &path, QStringLis
     // Built last: [registry] may come after [mime].
     state.mime = std::make_shared<const MimeLookup>(
         mimeTypes, handlers, state.systemMimeDatabase ? &SystemMimeDatabase::host() : nullptr);
+    warnings += reader.warnings();
     return state;
 }
 

@@ -3,6 +3,8 @@
 #include "device.h"
 #include "journal.h"
 
+#include "core/regular_file.h"
+
 #include <QDebug>
 #include <QFile>
 #include <QGuiApplication>
@@ -15,10 +17,23 @@ namespace {
 
 // The built-in icon set, compiled into the library.
 const QString builtInIconDir = QStringLiteral(":/kivsim/icons");
+// Far above any icon of a phone's screen; a larger file is not read.
+constexpr qint64 MaxIconBytes = 4 << 20;
 
-QString iconPath(const QString &dir, const QString &name)
+// The icon file's bytes, empty when it is missing or cannot be an icon: a
+// device's own icon folder may hold anything, a FIFO or /dev/zero included.
+QByteArray iconData(const QString &dir, const QString &name)
 {
-    return (dir.isEmpty() ? builtInIconDir : dir) + u'/' + name;
+    if (dir.isEmpty()) {
+        QFile file(builtInIconDir + u'/' + name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    const QString path = dir + u'/' + name;
+    const Tambro::FileContent content = Tambro::readRegularFile(path, MaxIconBytes);
+    if (!content.problem.isEmpty())
+        qWarning().noquote() << "kivsim: warning: icon" << path << content.problem
+                             << "and is not read";
+    return content.data;
 }
 
 // Pixmaps need a QGuiApplication; command-line tools and GUI-less tests get
@@ -49,12 +64,8 @@ QPixmap RES_ICON_Reader::getIcon(const char *name, bool big)
     if (iconName.isEmpty() || iconName.contains(u'/') || iconName == QLatin1String("..")
         || !canMakePixmaps())
         return QPixmap();
-    // Opened by its exact name: loading by file name would also try the name
+    // Read by its exact name: loading by file name would also try the name
     // with image suffixes added. Decoded by content, since the icon files may
     // hold PNG data under other suffixes.
-    QFile file(iconPath(KivSim::device()->iconDir, iconName));
-    QImage image;
-    if (file.open(QIODevice::ReadOnly))
-        image.load(&file, nullptr);
-    return QPixmap::fromImage(image);
+    return QPixmap::fromImage(QImage::fromData(iconData(KivSim::device()->iconDir, iconName)));
 }

@@ -66,8 +66,10 @@ void Line::write()
     if (!enabled())
         return;
     const QByteArray line = m_text + "}\n";
-    // Opened per line, so that the file may be truncated, moved or deleted meanwhile.
-    const int fd = ::open(journalPath().constData(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
+    // Opened per line, so that the file may be truncated, moved or deleted
+    // meanwhile; without blocking, should it be a FIFO that nobody reads.
+    const int fd = ::open(journalPath().constData(),
+                          O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0644);
     if (fd < 0) {
         warnOnce("open");
         return;

@@ -1,7 +1,7 @@
 #include "keyfile.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include "core/regular_file.h"
+
 #include <QHash>
 #include <QStringDecoder>
 
@@ -17,19 +17,6 @@ bool isAsciiDigit(QChar c)
 bool isAsciiHexDigit(QChar c)
 {
     return isAsciiDigit(c) || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
-}
-
-// Shortens a piece of the input for a warning, so that a huge line does not
-// make a huge message.
-QString shortened(const QString &text)
-{
-    constexpr int maxLength = 40;
-    return text.size() <= maxLength ? text : text.left(maxLength) + QStringLiteral("...");
-}
-
-QString quoted(const QString &text)
-{
-    return u'"' + shortened(text) + u'"';
 }
 
 // Configuration files of older tools are often Latin-1: a line that is not
@@ -76,7 +63,7 @@ QString leftTrimmed(const QString &text)
 class KeyFile::Parser
 {
 public:
-    Parser(KeyFile &result, const QString &origin) : m_result(result), m_origin(origin) {}
+    Parser(KeyFile &result, const QString &origin) : m_result(result), m_log(origin) {}
 
     void parseLine(QByteArrayView bytes, int number);
     void finish();
@@ -86,14 +73,12 @@ private:
     void parseEntry(const QString &text, int number);
     void addSection(const QString &name, int number);
     void addEntry(const QString &key, const QString &value, int number);
-    void warn(int number, const QString &message);
+    void warn(int number, const QString &message) { m_log.add(number, message); }
 
     KeyFile &m_result;
-    QString m_origin;
+    WarningLog m_log;
     int m_current = -1; // no section yet, or the last header was malformed
     bool m_afterBadHeader = false;
-    int m_problems = 0;
-    int m_firstUnlistedLine = 0;
 };
 
 void KeyFile::Parser::parseLine(QByteArrayView bytes, int number)
@@ -183,24 +168,9 @@ void KeyFile::Parser::addEntry(const QString &key, const QString &value, int num
     entry.line = number;
 }
 
-void KeyFile::Parser::warn(int number, const QString &message)
-{
-    if (++m_problems > maxWarnings) {
-        if (!m_firstUnlistedLine)
-            m_firstUnlistedLine = number;
-        return;
-    }
-    m_result.m_warnings.append(QStringLiteral("%1:%2: %3").arg(m_origin).arg(number).arg(message));
-}
-
 void KeyFile::Parser::finish()
 {
-    if (m_problems <= maxWarnings)
-        return;
-    m_result.m_warnings.append(QStringLiteral("%1:%2: %3 more problems from here on not listed")
-                                   .arg(m_origin)
-                                   .arg(m_firstUnlistedLine)
-                                   .arg(m_problems - maxWarnings));
+    m_result.m_warnings = m_log.lines();
 }
 
 KeyFile KeyFile::parse(const QByteArray &data, const QString &origin)
@@ -219,17 +189,46 @@ KeyFile KeyFile::parse(const QByteArray &data, const QString &origin)
 
 KeyFile KeyFile::load(const QString &path)
 {
-    QFile file(path);
-    if (!file.exists())
-        return {};
+    const Tambro::FileContent content = Tambro::readRegularFile(path, maxFileBytes);
+    if (content.status == Tambro::FileContent::Read)
+        return parse(content.data, path);
     KeyFile result;
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
-        const QString reason = QFileInfo(path).isDir() ? QStringLiteral("is a folder")
-                                                       : file.errorString();
-        result.m_warnings.append(QStringLiteral("%1: cannot read: %2").arg(path, reason));
-        return result;
+    if (content.status != Tambro::FileContent::Missing)
+        result.m_warnings.append(
+            QStringLiteral("%1: cannot read: %2").arg(path, content.problem));
+    return result;
+}
+
+QString KeyFile::shortened(const QString &text)
+{
+    constexpr int maxLength = 40;
+    return text.size() <= maxLength ? text : text.left(maxLength) + QStringLiteral("...");
+}
+
+QString KeyFile::quoted(const QString &text)
+{
+    return u'"' + shortened(text) + u'"';
+}
+
+void WarningLog::add(int line, const QString &message)
+{
+    if (++m_problems > maxWarnings) {
+        if (!m_firstUnlistedLine)
+            m_firstUnlistedLine = line;
+        return;
     }
-    return parse(file.readAll(), path);
+    m_lines.append(QStringLiteral("%1:%2: %3").arg(m_origin).arg(line).arg(message));
+}
+
+QStringList WarningLog::lines() const
+{
+    if (m_problems <= maxWarnings)
+        return m_lines;
+    return m_lines
+        + QStringList{QStringLiteral("%1:%2: %3 more problems from here on not listed")
+                          .arg(m_origin)
+                          .arg(m_firstUnlistedLine)
+                          .arg(m_problems - maxWarnings)};
 }
 
 std::optional<qint64> KeyFile::toNumber(const QString &text)

@@ -40,6 +40,25 @@
 #include <optional>
 #include <utility>
 
+// Messages about a file, "origin:line: message": at most maxWarnings of them,
+// then one line counting the rest, so that a binary file does not flood the log.
+class WarningLog
+{
+public:
+    static constexpr int maxWarnings = 100;
+
+    explicit WarningLog(const QString &origin) : m_origin(origin) {}
+    void add(int line, const QString &message);
+    // The messages, with the count of those left out at the end.
+    QStringList lines() const;
+
+private:
+    QString m_origin;
+    QStringList m_lines;
+    int m_problems = 0;
+    int m_firstUnlistedLine = 0;
+};
+
 class KeyFile
 {
 public:
@@ -62,15 +81,20 @@ public:
         QStringList keys() const;
     };
 
-    // At most this many problems are listed in warnings(), then one line
-    // counting the rest, so that a binary file does not flood the log.
-    static constexpr int maxWarnings = 100;
+    static constexpr int maxWarnings = WarningLog::maxWarnings;
+    // Configuration files are small; a larger one is not read at all.
+    static constexpr qint64 maxFileBytes = 32 << 20;
 
     // origin names the input in warnings, normally the file's path.
     static KeyFile parse(const QByteArray &data, const QString &origin);
-    // A missing file gives an empty key file without warnings; an unreadable one
-    // gives an empty key file with a warning.
+    // A missing file gives an empty key file without warnings. One that is
+    // unreadable, no regular file (a FIFO, a device) or larger than
+    // maxFileBytes gives an empty key file with a warning.
     static KeyFile load(const QString &path);
+
+    // A piece of the input short enough for a message, and the same in quotes.
+    static QString shortened(const QString &text);
+    static QString quoted(const QString &text);
 
     // A decimal number (optionally negative) or a "0x" hexadecimal one, blanks
     // around it allowed; nothing for anything else, including overflow.

@@ -138,6 +138,8 @@ void TestPartitions::table_data()
     QTest::newRow("garbage mount table lists nothing")
         << QByteArray("\x01\x02 not a mount table\n\n#\n   \n") << QByteArray() << QStringList();
     QTest::newRow("empty mount table") << QByteArray() << QByteArray() << QStringList();
+    QTest::newRow("table over 1 MiB is refused whole, not read in part")
+        << PhoneLine + QByteArray(1 << 20, '#') << QByteArray() << QStringList();
 }
 
 void TestPartitions::table()

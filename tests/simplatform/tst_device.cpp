@@ -1,4 +1,5 @@
 #include "devicefile.h"
+#include "keyfile.h"
 
 #include "Dmt.h"
 #include "RES_ICON_Reader.h"
@@ -13,6 +14,7 @@
 #include <functional>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -84,6 +86,7 @@ private slots:
     void megaSim();
     void emptyTextHoldsNoBuffer();
     void iconFolderOfTheDevice();
+    void warningsAreBounded();
 
 private:
     TestDeviceFile m_device;
@@ -337,6 +340,29 @@ void TestDevice::iconFolderOfTheDevice()
     QCOMPARE(reader.getIcon("fm_pic_thb.gif", false).size(), QSize(3, 2));
     QVERIFY(reader.getIcon("fm_pic_small.gif", true).isNull()); // no fallback to the built-in set
     QVERIFY(reader.getIcon("../device.ini", true).isNull());
+    // A FIFO would block the reader for ever.
+    QCOMPARE(mkfifo(QFile::encodeName(m_device.dir().filePath("phone-icons/fifo.gif")), 0600), 0);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("fifo.gif is a FIFO")));
+    QVERIFY(reader.getIcon("fifo.gif", true).isNull());
+}
+
+// The platform's own warnings are as bounded as the parser's, and short.
+void TestDevice::warningsAreBounded()
+{
+    QByteArray content = "[" + QByteArray(10 << 20, 's') + "]\n";
+    for (int i = 0; i < 150; ++i)
+        content += "[unknown" + QByteArray::number(i) + "]\n";
+    QVERIFY(m_device.write(content));
+    static QStringList warnings;
+    warnings.clear();
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &text) { warnings << text; });
+    UTIL_GetMMCSDStatus();
+    qInstallMessageHandler(previous);
+    QCOMPARE(warnings.size(), WarningLog::maxWarnings + 1);
+    QVERIFY(warnings.last().contains(QLatin1String("51 more problems")));
+    for (const QString &warning : std::as_const(warnings))
+        QVERIFY2(warning.size() < 200, qPrintable(warning.left(200)));
 }
 
 QTEST_MAIN(TestDevice)

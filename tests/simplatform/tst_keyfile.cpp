@@ -3,6 +3,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 // Renders what the parser kept as "[section] key=value;..." to compare whole results.
 static QString dump(const KeyFile &file)
 {
@@ -39,6 +41,7 @@ private slots:
     void toNumber_data();
     void toNumber();
     void lookupPrefersExactKey();
+    void load_data();
     void load();
 };
 
@@ -176,17 +179,43 @@ void TestKeyFile::lookupPrefersExactKey()
     QCOMPARE(file.value("M", "Ogg", "none"), QStringLiteral("none")); // sections are exact
 }
 
+void TestKeyFile::load_data()
+{
+    QTest::addColumn<QString>("name"); // in a fresh folder; made by the row
+    QTest::addColumn<QString>("warning"); // empty: none
+
+    QTest::newRow("missing file: nothing to say") << "missing.ini" << "";
+    QTest::newRow("folder") << "." << "is a folder";
+    // Opening a FIFO for reading would wait for a writer for ever.
+    QTest::newRow("FIFO is not opened") << "fifo" << "is a FIFO";
+    // /dev/zero never ends.
+    QTest::newRow("device is not read") << "zero" << "is a device";
+    QTest::newRow("over the size limit: refused whole") << "large.ini" << "is larger than";
+    // Read: its one line of NUL bytes after the entry is skipped.
+    QTest::newRow("at the size limit: read") << "limit.ini" << "NUL byte";
+}
+
 void TestKeyFile::load()
 {
-    QTemporaryDir dir;
-    const KeyFile missing = KeyFile::load(dir.filePath("missing.ini"));
-    QVERIFY(missing.sections().isEmpty());
-    QVERIFY(missing.warnings().isEmpty());
+    QFETCH(QString, name);
+    QFETCH(QString, warning);
 
-    const KeyFile folder = KeyFile::load(dir.path());
-    QVERIFY(folder.sections().isEmpty());
-    QCOMPARE(folder.warnings().size(), 1);
-    QVERIFY(folder.warnings().first().contains(QLatin1String("cannot read")));
+    QTemporaryDir dir;
+    const QString path = dir.filePath(name);
+    const QByteArray section = "[s]\nk=v\n";
+    QFile file(path);
+    if (name == QLatin1String("fifo"))
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    else if (name == QLatin1String("zero"))
+        QVERIFY(QFile::link(QStringLiteral("/dev/zero"), path));
+    else if (name.endsWith(QLatin1String(".ini")) && name != QLatin1String("missing.ini"))
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(section)
+                && file.resize(KeyFile::maxFileBytes + (name == QLatin1String("large.ini"))));
+
+    const KeyFile loaded = KeyFile::load(path);
+    QCOMPARE(loaded.warnings().size(), warning.isEmpty() ? 0 : 1);
+    QVERIFY(warning.isEmpty() || loaded.warnings().first().contains(warning));
+    QCOMPARE(loaded.value("s", "k"), name == QLatin1String("limit.ini") ? "v" : QString());
 }
 
 QTEST_GUILESS_MAIN(TestKeyFile)

@@ -27,12 +27,10 @@ std::optional<qint64> unitOf(QChar suffix)
 class SectionReader
 {
 public:
-    SectionReader(const QString &origin, QStringList &warnings)
-        : m_origin(origin), m_warnings(warnings)
-    {
-    }
+    explicit SectionReader(const QString &origin) : m_log(origin) {}
 
     void read(const KeyFile::Entry &entry, SandboxSettings &settings);
+    QStringList warnings() const { return m_log.lines(); }
 
 private:
     void readSize(const KeyFile::Entry &entry, qint64 &target);
@@ -40,8 +38,7 @@ private:
     void readFileName(const KeyFile::Entry &entry, QString &target);
     void warn(const KeyFile::Entry &entry, const QString &why);
 
-    QString m_origin;
-    QStringList &m_warnings;
+    WarningLog m_log;
 };
 
 void SectionReader::read(const KeyFile::Entry &entry, SandboxSettings &settings)
@@ -67,8 +64,8 @@ void SectionReader::readSize(const KeyFile::Entry &entry, qint64 &target)
     if (const std::optional<qint64> size = parseByteSize(entry.value))
         target = *size;
     else
-        warn(entry, QStringLiteral("\"%1\" is not a size in bytes (with K, M or G); no storage")
-                        .arg(entry.value.trimmed()));
+        warn(entry, QStringLiteral("%1 is not a size in bytes (with K, M or G); no storage")
+                        .arg(KeyFile::quoted(entry.value.trimmed())));
 }
 
 void SectionReader::readWritePath(const KeyFile::Entry &entry, QString &target)
@@ -93,10 +90,8 @@ void SectionReader::readFileName(const KeyFile::Entry &entry, QString &target)
 
 void SectionReader::warn(const KeyFile::Entry &entry, const QString &why)
 {
-    m_warnings.append(QStringLiteral("%1:%2: [%3] %4: %5")
-                          .arg(m_origin)
-                          .arg(entry.line)
-                          .arg(sectionName, entry.key, why));
+    m_log.add(entry.line, QStringLiteral("[%1] %2: %3")
+                              .arg(sectionName, KeyFile::shortened(entry.key), why));
 }
 
 } // namespace
@@ -108,9 +103,10 @@ SandboxSettings SandboxSettings::from(const KeyFile &device, const QString &orig
     const KeyFile::Section *section = device.section(sectionName);
     if (!section)
         return settings;
-    SectionReader reader(origin, warnings);
+    SectionReader reader(origin);
     for (const KeyFile::Entry &entry : section->entries)
         reader.read(entry, settings);
+    warnings += reader.warnings();
     return settings;
 }
 

@@ -168,6 +168,16 @@ private Q_SLOTS:
         QVERIFY(names.at(1).toObject()[QStringLiteral("ringTone")].toBool());
     }
 
+    void typeTakesNamesAfterDoubleDashAsNames()
+    {
+        const Run run = tambro({"type", "--json", "--", "-platform", "--json", "x.mp3"});
+        QCOMPARE(run.exitCode, 0);
+        QStringList names;
+        for (const QJsonValue &answers : QJsonDocument::fromJson(run.out.toUtf8()).array())
+            names << answers.toObject()[QStringLiteral("name")].toString();
+        QCOMPARE(names, (QStringList{"-platform", "--json", "x.mp3"}));
+    }
+
     void lsListsFoldersFirstThenFilesByName()
     {
         const Run run = tambro({QStringLiteral("ls"), QStringLiteral("--json"),
@@ -206,7 +216,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<bool>("usageOnStdout");
 
-        QTest::newRow("no argument") << QStringList() << 0 << true;
+        QTest::newRow("no command") << QStringList() << 2 << false;
         QTest::newRow("help") << QStringList{QStringLiteral("--help")} << 0 << true;
         QTest::newRow("unknown command") << QStringList{QStringLiteral("format")} << 2 << false;
         QTest::newRow("unknown option") << QStringList{QStringLiteral("storage"), QStringLiteral("--bogus")} << 2 << false;
@@ -216,6 +226,9 @@ private Q_SLOTS:
         QTest::newRow("png for a command that does not draw") << QStringList{QStringLiteral("storage"), QStringLiteral("--png"), QStringLiteral("x.png")} << 2 << false;
         QTest::newRow("png and json together") << QStringList{QStringLiteral("ls"), QStringLiteral("--png"), QStringLiteral("x.png"), QStringLiteral("--json")} << 2 << false;
         QTest::newRow("extra argument to folders") << QStringList{QStringLiteral("folders"), QStringLiteral("/x")} << 2 << false;
+        QTest::newRow("empty folder name") << QStringList{QStringLiteral("ls"), QString()} << 2 << false;
+        // Qt's own options are no options of tambro's, and never eat a name.
+        QTest::newRow("Qt option") << QStringList{"type", "-qwindowtitle", "song.mp3", "b.mp3"} << 2 << false;
     }
 
     void usage()

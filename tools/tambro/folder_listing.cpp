@@ -1,33 +1,40 @@
 #include "folder_listing.h"
 
+#include "folder_reader.h"
+
 #include <TAMBRO_FixedFolder.h>
 #include <TAMBRO_Global.h>
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
 namespace {
 
-// Fixed folders carry their own icons and names; any other folder gets the
-// generic ones.
-ListedEntry folderEntry(const QFileInfo &info)
+QByteArray bytesUnlessText(const DiskEntry &entry)
 {
-    FixedFolder folder;
-    if (!TAMBRO_FixedFolder::getFolder(info.filePath(), folder, true))
-        folder = {QStringLiteral("fm_folder_thb.gif"), QStringLiteral("fm_folder_small.gif"),
-                  info.fileName(), QString()};
-    return {info.fileName(), folder.displayName, true, folder.bigIcon, folder.smallIcon};
+    return entry.nameIsText() ? QByteArray() : entry.nameBytes;
 }
 
-ListedEntry fileEntry(const QFileInfo &info)
+// Fixed folders carry their own icons and names; any other folder gets the
+// generic ones.
+ListedEntry folderEntry(const QString &path, const DiskEntry &entry)
 {
-    QString shownAs = info.fileName();
-    TAMBRO_FixedFolder::trPreloadFile(info.filePath(), shownAs, true);
-    return {info.fileName(), shownAs, false,
-            TAMBRO_Global::getFileIconByType(info.filePath(), true),
-            TAMBRO_Global::getFileIconByType(info.filePath(), false)};
+    FixedFolder folder;
+    if (!TAMBRO_FixedFolder::getFolder(path, folder, true))
+        folder = {QStringLiteral("fm_folder_thb.gif"), QStringLiteral("fm_folder_small.gif"),
+                  entry.name, QString()};
+    return {entry.name, bytesUnlessText(entry), folder.displayName, true, folder.bigIcon,
+            folder.smallIcon};
+}
+
+ListedEntry fileEntry(const QString &path, const DiskEntry &entry)
+{
+    QString shownAs = entry.name;
+    TAMBRO_FixedFolder::trPreloadFile(path, shownAs, true);
+    return {entry.name, bytesUnlessText(entry), shownAs, false,
+            TAMBRO_Global::getFileIconByType(path, true),
+            TAMBRO_Global::getFileIconByType(path, false)};
 }
 
 void sortByName(QList<ListedEntry> &entries)
@@ -49,20 +56,20 @@ QString titleOf(const QString &folder)
 
 std::optional<FolderListing> listFolder(const QString &folder)
 {
-    const QDir dir(folder);
-    if (!QFileInfo(folder).isDir() || !dir.isReadable())
+    const std::optional<QList<DiskEntry>> entries = readFolder(folder);
+    if (!entries)
         return std::nullopt;
+    const QString absolute = QDir::cleanPath(QDir(folder).absolutePath());
     QList<ListedEntry> folders;
     QList<ListedEntry> files;
-    const QFileInfoList entries =
-        dir.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QFileInfo &info : entries) {
-        if (info.isDir())
-            folders.append(folderEntry(info));
+    for (const DiskEntry &entry : *entries) {
+        const QString path = QDir(absolute).filePath(entry.name);
+        if (entry.isFolder)
+            folders.append(folderEntry(path, entry));
         else
-            files.append(fileEntry(info));
+            files.append(fileEntry(path, entry));
     }
     sortByName(folders);
     sortByName(files);
-    return FolderListing{titleOf(QDir::cleanPath(dir.absolutePath())), folders + files};
+    return FolderListing{titleOf(absolute), folders + files};
 }

@@ -1,13 +1,16 @@
 // A folder's entries as the file manager lists them.
 #pragma once
 
+#include <QByteArray>
 #include <QList>
-#include <optional>
 #include <QString>
+
+#include <optional>
 
 struct ListedEntry
 {
-    QString name; // on disk
+    QString name; // on disk; bytes that are not UTF-8 show as replacement characters
+    QByteArray nameBytes; // the name's bytes when they are not UTF-8, else empty
     QString shownAs; // the display name
     bool isFolder = false;
     QString bigIcon;

@@ -1,5 +1,6 @@
 #include "folders_command.h"
 
+#include "folder_reader.h"
 #include "text_table.h"
 
 #include "folders/folder_structure.h"
@@ -10,11 +11,14 @@
 #include <ZConfig.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
+
+#include <algorithm>
 
 namespace {
 
@@ -115,13 +119,22 @@ QJsonObject keyWordObject(const KeyWord &keyWord)
 
 QJsonArray preloadedFileObjects(const QString &folder)
 {
+    QList<DiskEntry> entries = readFolder(folder).value_or(QList<DiskEntry>());
+    std::sort(entries.begin(), entries.end(), [](const DiskEntry &a, const DiskEntry &b) {
+        return a.nameBytes < b.nameBytes;
+    });
     QJsonArray files;
-    const QFileInfoList entries = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
-    for (const QFileInfo &entry : entries) {
+    for (const DiskEntry &entry : std::as_const(entries)) {
+        if (entry.isFolder)
+            continue;
+        const QString path = QDir(folder).filePath(entry.name);
         QString name;
-        TAMBRO_FixedFolder::trPreloadFile(entry.filePath(), name, true);
-        files.append(QJsonObject{{QStringLiteral("path"), entry.filePath()},
-                                 {QStringLiteral("name"), name}});
+        TAMBRO_FixedFolder::trPreloadFile(path, name, true);
+        QJsonObject file{{QStringLiteral("path"), path}, {QStringLiteral("name"), name}};
+        if (!entry.nameIsText())
+            file.insert(QStringLiteral("pathBytes"),
+                        jsonBytes(QFile::encodeName(folder) + '/' + entry.nameBytes));
+        files.append(file);
     }
     return files;
 }

@@ -2,10 +2,12 @@
 
 #include "folder_listing.h"
 #include "list_view_picture.h"
+#include "output.h"
 #include "text_table.h"
 
 #include <TAMBRO_FixedFolder.h>
 
+#include <QBuffer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -18,13 +20,16 @@ QJsonObject toJson(const QString &folder, const FolderListing &listing)
 {
     QJsonArray entries;
     for (const ListedEntry &entry : listing.entries) {
-        entries.append(QJsonObject{
+        QJsonObject object{
             {QStringLiteral("name"), entry.name},
             {QStringLiteral("shownAs"), entry.shownAs},
             {QStringLiteral("kind"), entry.isFolder ? QStringLiteral("folder") : QStringLiteral("file")},
             {QStringLiteral("bigIcon"), entry.bigIcon},
             {QStringLiteral("smallIcon"), entry.smallIcon},
-        });
+        };
+        if (!entry.nameBytes.isEmpty())
+            object.insert(QStringLiteral("nameBytes"), jsonBytes(entry.nameBytes));
+        entries.append(object);
     }
     return QJsonObject{{QStringLiteral("folder"), folder},
                        {QStringLiteral("title"), listing.title},
@@ -51,6 +56,17 @@ int fail(const QString &message)
     return Failure;
 }
 
+int writePicture(const QString &path, const FolderListing &listing)
+{
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    QString error;
+    if (!drawListView(listing).save(&buffer, "PNG") || !writeWholeFile(path, png, error))
+        return fail(QStringLiteral("cannot write '%1': %2").arg(path, error));
+    return 0;
+}
+
 } // namespace
 
 int runLsCommand(QTextStream &out, const Request &request)
@@ -63,10 +79,7 @@ int runLsCommand(QTextStream &out, const Request &request)
     const std::optional<FolderListing> listing = listFolder(folder);
     if (!listing)
         return fail(QStringLiteral("cannot list '%1': not a readable folder").arg(folder));
-    if (!request.png.isNull()) {
-        if (!drawListView(*listing).save(request.png, "PNG"))
-            return fail(QStringLiteral("cannot write '%1'").arg(request.png));
-        return 0;
-    }
+    if (!request.png.isNull())
+        return writePicture(request.png, *listing);
     return printReport(out, request, toJson(folder, *listing), textTable);
 }

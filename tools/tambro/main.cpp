@@ -1,6 +1,7 @@
 // tambro: asks the file manager's base library about the phone it runs on.
 #include "folders_command.h"
 #include "ls_command.h"
+#include "output.h"
 #include "request.h"
 #include "storage_command.h"
 #include "type_command.h"
@@ -71,6 +72,8 @@ QString misuse(const QString &name, const Command &command, const Request &reque
         return QStringLiteral("unexpected argument '%1'").arg(request.arguments.at(command.maxArguments));
     if (count < command.minArguments)
         return QStringLiteral("'%1' needs an argument").arg(name);
+    if (request.arguments.contains(QString()))
+        return QStringLiteral("an empty argument names nothing");
     if (!request.png.isNull() && !command.draws)
         return QStringLiteral("'%1' does not draw: --png is for ls").arg(name);
     if (!request.png.isNull() && request.json)
@@ -78,13 +81,19 @@ QString misuse(const QString &name, const Command &command, const Request &reque
     return QString();
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+// The user's arguments, read before Qt sees any: QGuiApplication would take
+// its own options (-platform, -qwindowtitle, ...) out of them, even after
+// "--", and a name such as "-platform" must stay a name.
+QStringList userArguments(int argc, char *argv[])
 {
-    chooseOffscreenWithoutDisplay();
-    QGuiApplication app(argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
 
+int run(const QStringList &arguments, QTextStream &out)
+{
     QCommandLineParser parser;
     const QCommandLineOption json(QStringLiteral("json"));
     const QCommandLineOption png(QStringLiteral("png"), QString(), QStringLiteral("FILE"));
@@ -92,15 +101,16 @@ int main(int argc, char *argv[])
     parser.addOption(json);
     parser.addOption(png);
     parser.addOption(help);
-    if (!parser.parse(app.arguments()))
+    if (!parser.parse(arguments))
         return usageError(parser.errorText());
 
-    QTextStream out(stdout);
     const QStringList words = parser.positionalArguments();
-    if (parser.isSet(help) || words.isEmpty()) {
+    if (parser.isSet(help)) {
         out << Usage;
         return 0;
     }
+    if (words.isEmpty())
+        return usageError(QStringLiteral("no command given"));
     const auto command = Commands.find(words.first());
     if (command == Commands.end())
         return usageError(QStringLiteral("unknown command '%1'").arg(words.first()));
@@ -112,4 +122,23 @@ int main(int argc, char *argv[])
     if (!why.isEmpty())
         return usageError(why);
     return command->second.run(out, request);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QStringList arguments = userArguments(argc, argv);
+    chooseOffscreenWithoutDisplay();
+    int qtArgc = 1;
+    QGuiApplication app(qtArgc, argv);
+
+    QTextStream out(stdout);
+    const int status = run(arguments, out);
+    QString error;
+    if (!finishStandardOutput(out, error)) {
+        QTextStream(stderr) << "tambro: cannot write the output: " << error << '\n';
+        return status == 0 ? 1 : status;
+    }
+    return status;
 }

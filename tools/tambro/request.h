@@ -1,6 +1,7 @@
 // What the user asked of tambro, once the command line has been checked.
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QString>
 #include <QStringList>
@@ -12,6 +13,16 @@ struct Request
     bool json = false;
     QString png; // --png FILE, where the command draws
 };
+
+// A name's bytes, for names that are not UTF-8 and so cannot be given whole
+// as JSON text.
+inline QJsonArray jsonBytes(const QByteArray &bytes)
+{
+    QJsonArray array;
+    for (const char byte : bytes)
+        array.append(int(quint8(byte)));
+    return array;
+}
 
 // Every command's report: the JSON document when asked for, else the text
 // made from the same data. Returns the command's exit status.

@@ -1,0 +1,22 @@
+// A folder's entries as they are on disk, whatever bytes their names hold:
+// a file manager never hides a file.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+struct DiskEntry
+{
+    QByteArray nameBytes;
+    QString name; // bytes that are not UTF-8 show as replacement characters
+    bool isFolder = false; // a folder or a link to one
+
+    // Whether name holds exactly the bytes, so that a report may leave them out.
+    bool nameIsText() const { return name.toUtf8() == nameBytes; }
+};
+
+// In the order the file system gives; nothing when the folder cannot be read.
+std::optional<QList<DiskEntry>> readFolder(const QString &folder);

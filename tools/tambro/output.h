@@ -1,0 +1,15 @@
+// Writing the tool's results. Every write and close is checked, so that a
+// full disk or /dev/full never passes for success.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTextStream>
+
+// Flushes what was written to out (on standard output) and closes standard
+// output. False, with why in error, when any of it was lost.
+bool finishStandardOutput(QTextStream &out, QString &error);
+
+// Writes the data to the file whole, or leaves the file as it was. False,
+// with why in error, when it could not.
+bool writeWholeFile(const QString &path, const QByteArray &data, QString &error);

@@ -200,6 +200,13 @@ write_path = $value")
     TMPDIR=$work/tmp XDG_RUNTIME_DIR=/run "$kivsim" --device "$sample" -- \
         sh -c 'touch "$XDG_RUNTIME_DIR/made-here"' 2>/dev/null || fail "run with XDG_RUNTIME_DIR=/run"
     [ -e /run/kivsim ] && fail "/run/kivsim was made on the host"
+    # A journal right in /tmp shares neither /tmp nor a runtime folder made there.
+    if [ ! -e /tmp/runtime ]; then
+        local journal=/tmp/kivsim-smoke-$$.jsonl
+        KIVSIM_JOURNAL=$journal env -u XDG_RUNTIME_DIR "$kivsim" --device "$sample" -- true
+        rm -f "$journal"
+        [ -e /tmp/runtime ] && fail "/tmp/runtime was made on the host"
+    fi
 
     # A copy holding names that are not UTF-8 and read-only folders goes too.
     device=$(make_device names '[sandbox]

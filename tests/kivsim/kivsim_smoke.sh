@@ -7,19 +7,11 @@
 # GROUP is one of: layout, isolation, exit_status, usage, odd_devices, journal,
 # escapes, host_untouched, signals.
 
-set -u
 kivsim=$1
 sample=$2
 group=$3
 
-work=$(mktemp -d "${TMPDIR:-/tmp}/kivsim-smoke-XXXXXX") || exit 1
-trap 'rm -rf "$work"' EXIT
-failures=0
-
-fail() {
-    echo "FAIL: $*"
-    failures=$((failures + 1))
-}
+. "$(dirname "$0")/../common/groups.sh"
 
 # expect_status WANTED DESCRIPTION COMMAND...: the command's exit status.
 expect_status() {
@@ -233,14 +225,4 @@ test_signals() {
     done
 }
 
-case $group in
-layout | isolation | exit_status | usage | odd_devices | journal | escapes | host_untouched | signals)
-    "test_$group"
-    ;;
-*)
-    echo "unknown group $group"
-    exit 2
-    ;;
-esac
-[ "$failures" -eq 0 ] || exit 1
-echo "PASS: $group"
+run_group

@@ -6,19 +6,11 @@
 #
 # GROUP is one of: special_files, failed_writes, big_table, odd_names.
 
-set -u
 kivsim=$1
 tambro=$2
 group=$3
 
-work=$(mktemp -d "${TMPDIR:-/tmp}/tambro-edges-XXXXXX") || exit 1
-trap 'rm -rf "$work"' EXIT
-failures=0
-
-fail() {
-    echo "FAIL: $*"
-    failures=$((failures + 1))
-}
+. "$(dirname "$0")/../common/groups.sh"
 
 # A phone with 1 MB of memory, mounted, and the given device.ini lines.
 make_device() {
@@ -89,12 +81,4 @@ test_odd_names() {
         fail "odd names: --json has not the name's bytes"
 }
 
-case $group in
-special_files | failed_writes | big_table | odd_names) "test_$group" ;;
-*)
-    echo "unknown group $group"
-    exit 2
-    ;;
-esac
-[ "$failures" -eq 0 ] || exit 1
-echo "PASS: $group"
+run_group

@@ -4,6 +4,9 @@
 #   ./build.sh demo   build, then show the sample phone's storage and folders with tambro
 #   ./build.sh test   build, then run every test, also under ASan and UBSan,
 #                     then fuzz the file readers with clang's libFuzzer
+#   ./build.sh coverage
+#                     build with gcov, run every test, and write a coverage
+#                     report with a summary per folder to build-coverage/report
 set -eu
 cd "$(dirname "$0")"
 
@@ -65,6 +68,33 @@ fuzz() {
     echo "$target: $(grep '^Done' "$log")"
 }
 
+# Line and branch coverage of the tests' runs: an HTML report of every file,
+# and a line per folder. Exception paths and branches the compiler proved
+# unreachable are not counted.
+coverage_report() {
+    report=build-coverage/report
+    rm -rf "$report"
+    mkdir -p "$report"
+    gcovr --root . --object-directory build-coverage -j "$(nproc)" \
+        --filter '(core|types|folders|filter|open|simplatform|tools)/' --exclude '.*_autogen/' \
+        --exclude-throw-branches --exclude-unreachable-branches \
+        --html-details "$report/index.html" --json-summary "$report/summary.json"
+    python3 - "$report/summary.json" >"$report/folders.txt" <<'EOF'
+import collections, json, sys
+totals = collections.defaultdict(lambda: [0, 0, 0, 0])
+for entry in json.load(open(sys.argv[1]))["files"]:
+    t = totals[entry["filename"].split("/")[0]]
+    for i, key in enumerate(("line_covered", "line_total", "branch_covered", "branch_total")):
+        t[i] += entry[key]
+percent = lambda covered, total: 100.0 * covered / total if total else 100.0
+for folder, (lc, lt, bc, bt) in sorted(totals.items()):
+    print(f"{folder + '/':13} lines {percent(lc, lt):5.1f}% ({lc}/{lt})"
+          f"  branches {percent(bc, bt):5.1f}% ({bc}/{bt})")
+EOF
+    cat "$report/folders.txt"
+    echo "Coverage report: $report/index.html"
+}
+
 case "${1:-}" in
 demo)
     install_missing_packages
@@ -86,8 +116,16 @@ test)
     fuzz keyfile_fuzz -max_total_time=15
     fuzz mount_table_fuzz -max_total_time=30
     ;;
+coverage)
+    packages="$packages gcovr"
+    install_missing_packages
+    build build-coverage -DCMAKE_BUILD_TYPE=Debug -DKIVTAMBRO_COVERAGE=ON
+    find build-coverage -name '*.gcda' -delete
+    run_tests build-coverage
+    coverage_report
+    ;;
 *)
-    echo "usage: $0 demo|test" >&2
+    echo "usage: $0 demo|test|coverage" >&2
     exit 2
     ;;
 esac

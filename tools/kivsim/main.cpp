@@ -247,7 +247,11 @@ void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
     command.setEnvironment(QStringLiteral("KIV_APP_WRITE_PATH"), settings.writePath);
     command.setEnvironment(QStringLiteral("KIVSIM_DEVICE"), PhoneLayout::deviceFile);
     command.setWorkingDirectory(QDir::currentPath());
+#ifdef KIVSIM_BUILD_DIR_WRITABLE
+    command.revealHostPath(QStringLiteral(KIVSIM_BUILD_DIR), BwrapCommand::Access::ReadWrite);
+#else
     command.revealHostPath(QStringLiteral(KIVSIM_BUILD_DIR), BwrapCommand::Access::ReadOnly);
+#endif
     if (commandLine.constFirst().contains(u'/'))
         command.revealHostPath(QFileInfo(commandLine.constFirst()).absolutePath(),
                                BwrapCommand::Access::ReadOnly);

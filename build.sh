@@ -45,7 +45,7 @@ run_tests() {
 # instrumented: the rest is covered above.
 build_fuzz_targets() {
     CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DKIVTAMBRO_FUZZ=ON >/dev/null
-    cmake --build build-fuzz --target zconfig_fuzz keyfile_fuzz mount_table_fuzz
+    cmake --build build-fuzz --target config_fuzz mount_table_fuzz
 }
 
 # fuzz TARGET LIBFUZZER-OPTION...: fuzzes on a scratch copy of the target's
@@ -112,8 +112,7 @@ test)
     UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
         run_tests build-sanitize
     build_fuzz_targets
-    fuzz zconfig_fuzz -max_total_time=60
-    fuzz keyfile_fuzz -max_total_time=15
+    fuzz config_fuzz -max_total_time=60
     fuzz mount_table_fuzz -max_total_time=30
     ;;
 coverage)

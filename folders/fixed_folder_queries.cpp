@@ -4,6 +4,7 @@
 
 #include "TAMBRO_FixedFolder.h"
 #include "core/translation.h"
+#include "types/icon_names.h"
 
 #include <ZConfig.h>
 
@@ -50,8 +51,8 @@ bool TAMBRO_FixedFolder::getFolder(const QString &path, FixedFolder &folder, boo
     if (!found)
         return false;
     const QString &group = *found;
-    folder.bigIcon = entryOr(group, "b_icon", QStringLiteral("fm_folder_thb.gif"));
-    folder.smallIcon = entryOr(group, "s_icon", QStringLiteral("fm_folder_small.gif"));
+    folder.bigIcon = entryOr(group, "b_icon", QLatin1String(Tambro::Icons::Folder.big));
+    folder.smallIcon = entryOr(group, "s_icon", QLatin1String(Tambro::Icons::Folder.small));
     folder.displayName = Tambro::translateLatin1(
         structure.readEntry(group, QStringLiteral("res_str"), QString()),
         structure.readEntry(group, QStringLiteral("dis_str"), QString()));

@@ -2,6 +2,8 @@
 // which read the same file to show the structure it describes.
 #pragma once
 
+#include <KIV_Paths.h>
+
 #include <QFile>
 #include <QString>
 
@@ -12,10 +14,11 @@ namespace Tambro {
 // without either gets an empty structure.
 inline QString folderStructureFilePath()
 {
-    const QString deviceFile = QStringLiteral("/usr/data_resource/tambro/kiv_tambrostruct.cfg");
+    const QString name = u'/' + QLatin1String(KivPaths::FolderStructureFileName);
+    const QString deviceFile = QLatin1String(KivPaths::FileManagerDeviceFolder) + name;
     if (QFile::exists(deviceFile))
         return deviceFile;
-    return QStringLiteral("/usr/SYSqtapp/tambro/kiv_tambrostruct.cfg");
+    return QLatin1String(KivPaths::FileManagerSystemFolder) + name;
 }
 
 } // namespace Tambro

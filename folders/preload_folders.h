@@ -3,11 +3,13 @@
 // Shared with the tools, which show both forms.
 #pragma once
 
+#include <KIV_Paths.h>
+
 #include <QString>
 
 namespace Tambro {
 
-inline const QString PreloadRoot = QStringLiteral("/usr/data_resource");
+inline const QString PreloadRoot = QLatin1String(KivPaths::PreloadRoot);
 inline const QString PreloadTag = QStringLiteral("//ZELK_PRELOAD:");
 
 // Both replace by position, the root's 18 or the tag's 15 leading characters,

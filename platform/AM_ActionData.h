@@ -4,23 +4,25 @@
 #include "platform_export.h"
 
 #include <QString>
-#include <QVariant>
-#include <utility>
-#include <vector>
+
+#include <memory>
 
 class KIVPLATFORM_EXPORT AM_ActionData
 {
 public:
     AM_ActionData();
     ~AM_ActionData();
+    AM_ActionData(const AM_ActionData &) = delete;
+    AM_ActionData &operator=(const AM_ActionData &) = delete;
 
     void setAction(const QString &action);
+    // Values are sent in the order they were set; a number stays a number.
     void setValue(const QString &key, const QString &value);
     void setValue(const QString &key, int value);
     // Sends the request; true when the platform accepted it.
     bool invoke(bool waitForReply);
 
 private:
-    QString m_action;
-    std::vector<std::pair<QString, QVariant>> m_values;
+    struct Data;
+    std::unique_ptr<Data> d;
 };

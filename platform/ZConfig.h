@@ -1,12 +1,11 @@
 // Reader of ini-style configuration files: [group] headers and key = value lines.
 //
-// The file is read once, when the object is made; a missing file is an empty
-// configuration. What the reader accepts (comments, white space, repeated
-// groups and keys, broken lines) is described in the simulated platform's
-// key-file parser, which every configuration file of the phone goes through.
-// In short: a group's name is the text between '[' and the first ']', exactly
-// as written ("[/voice records]", "[//ZELK_PRELOAD:/pic]", "[/music ]" with its
-// blank); values keep trailing blanks; a repeated key keeps the last value.
+// The file is read once, when the object is made; a missing or unreadable file
+// is an empty configuration. A group's name is the text between '[' and the
+// first ']', exactly as written ("[/voice records]", "[//ZELK_PRELOAD:/pic]",
+// "[/music ]" with its blank); values keep trailing blanks; a repeated key
+// keeps the last value; lines whose first non-blank character is '#' or ';'
+// are comments.
 #pragma once
 
 #include "platform_export.h"

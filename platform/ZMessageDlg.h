@@ -3,25 +3,16 @@
 
 #include "ZPopup.h"
 
+#include <QString>
+
 class KIVPLATFORM_EXPORT ZMessageDlg : public ZPopup
 {
     Q_OBJECT
 public:
+    // timeout: seconds until the notice closes itself; 0 waits for the user.
+    // display: which of the phone's displays shows it.
     ZMessageDlg(const QString &title, const QString &text, int type, int timeout,
                 QWidget *parent = nullptr, const char *name = nullptr, bool modal = true,
                 Qt::WindowFlags flags = {}, int display = 0);
     ~ZMessageDlg() override;
-
-protected:
-    QString popupTitle() const override;
-    QString popupText() const override;
-    int popupType() const override;
-
-private:
-    void showEvent(QShowEvent *event) override;
-
-    QString m_title;
-    QString m_text;
-    int m_type;
-    int m_timeout; // seconds until the notice closes itself; 0 waits for the user
 };

@@ -5,7 +5,8 @@
 
 #include <QDialog>
 #include <QPixmap>
-#include <QString>
+
+#include <memory>
 
 class KIVPLATFORM_EXPORT ZPopup : public QDialog
 {
@@ -16,17 +17,10 @@ public:
     ~ZPopup() override;
 
     void setTitleIcon(const QPixmap &icon);
-    // Runs the dialog. Without a real window system it returns at once.
+    // Shows the dialog and waits until it is closed.
     int exec() override;
 
 protected:
-    virtual QString popupTitle() const;
-    virtual QString popupText() const;
-    virtual int popupType() const;
-
-    QPixmap m_titleIcon;
-
-private:
-    void buildContents();
-    bool m_contentsBuilt = false;
+    struct Data;
+    std::unique_ptr<Data> d;
 };

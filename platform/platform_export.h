@@ -1,5 +1,5 @@
-// Visibility of the phone platform's symbols. On the phone these come from the
-// platform's own libraries; on the desktop the simulated platform exports them.
+// Visibility of the phone platform's symbols, exported by the libraries that
+// implement them.
 #pragma once
 
 #define KIVPLATFORM_EXPORT __attribute__((visibility("default")))

@@ -3,24 +3,34 @@
 #include "journal.h"
 
 #include <QJsonArray>
+#include <QVariant>
 
-AM_ActionData::AM_ActionData() = default;
+#include <utility>
+#include <vector>
+
+struct AM_ActionData::Data
+{
+    QString action;
+    std::vector<std::pair<QString, QVariant>> values;
+};
+
+AM_ActionData::AM_ActionData() : d(std::make_unique<Data>()) {}
 
 AM_ActionData::~AM_ActionData() = default;
 
 void AM_ActionData::setAction(const QString &action)
 {
-    m_action = action;
+    d->action = action;
 }
 
 void AM_ActionData::setValue(const QString &key, const QString &value)
 {
-    m_values.emplace_back(key, QVariant(value));
+    d->values.emplace_back(key, QVariant(value));
 }
 
 void AM_ActionData::setValue(const QString &key, int value)
 {
-    m_values.emplace_back(key, QVariant(value));
+    d->values.emplace_back(key, QVariant(value));
 }
 
 bool AM_ActionData::invoke(bool waitForReply)
@@ -29,12 +39,12 @@ bool AM_ActionData::invoke(bool waitForReply)
     if (!KivSim::Journal::enabled())
         return true;
     QJsonArray values;
-    for (const auto &[key, value] : m_values) {
+    for (const auto &[key, value] : d->values) {
         // An integer stays a JSON number, so that the journal tells the two setValue forms apart.
         values.append(QJsonArray{key, QJsonValue::fromVariant(value)});
     }
     KivSim::Journal::Line("AM_ActionData::invoke")
-        .arg("action", m_action)
+        .arg("action", d->action)
         .arg("values", values)
         .write();
     return true;

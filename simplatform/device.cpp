@@ -75,6 +75,16 @@ QString readLabel(const QString &value, QByteArray &target)
         .arg(QString::fromUtf8(target));
 }
 
+// A value as the phone's registry would hold it: trimmed, or exactly what
+// stands between double quotes, so that a type may begin with blanks.
+QString unquoted(const QString &value)
+{
+    const QString trimmed = value.trimmed();
+    if (trimmed.size() >= 2 && trimmed.startsWith(u'"') && trimmed.endsWith(u'"'))
+        return trimmed.mid(1, trimmed.size() - 2);
+    return trimmed;
+}
+
 // ----- the fixed sections --------------------------------------------------
 
 struct KeyRule
@@ -136,7 +146,8 @@ public:
 
     void readFixed(const KeyFile::Section &section, DeviceState &state);
     void readFlexBits(const KeyFile::Section &section, DeviceState &state);
-    // [mime] and [handlers]: free keys; values are trimmed and an empty one lists nothing.
+    // [mime] and [handlers]: free keys; values are trimmed or quoted, and an
+    // empty one lists nothing.
     KeyFile::Section readMap(const KeyFile::Section &section);
     void warnUnknownSection(const KeyFile::Section &section);
     QStringList warnings() const { return m_log.lines(); }
@@ -183,7 +194,7 @@ KeyFile::Section StateReader::readMap(const KeyFile::Section &section)
 {
     KeyFile::Section result{section.name, section.line, {}};
     for (KeyFile::Entry entry : section.entries) {
-        entry.value = entry.value.trimmed();
+        entry.value = unquoted(entry.value);
         if (!entry.value.isEmpty())
             result.entries.append(entry);
     }

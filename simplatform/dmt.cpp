@@ -5,87 +5,133 @@
 
 #include <QString>
 
-// ----- DMString --------------------------------------------------------------
+#include <string>
+
+// ----- DMString, DmtPrincipal, DmtData ---------------------------------------
+
+struct DMString::Data
+{
+    std::string text;
+};
+
+DMString::DMString() = default;
 
 DMString::DMString(const char *text)
 {
     assign(text);
 }
 
+DMString::DMString(DMString &&other) noexcept = default;
+DMString &DMString::operator=(DMString &&other) noexcept = default;
+DMString::~DMString() = default;
+
 const char *DMString::c_str() const
 {
-    return m_buffer ? m_buffer->c_str() : nullptr;
+    return d ? d->text.c_str() : nullptr;
 }
 
 bool DMString::empty() const
 {
-    return !m_buffer || m_buffer->empty();
+    return !d;
 }
 
 void DMString::assign(const char *text)
 {
     // Like the platform's string, an empty text holds no buffer at all.
     if (text && *text)
-        m_buffer = std::make_unique<std::string>(text);
+        d = std::make_unique<Data>(Data{text});
     else
-        m_buffer.reset();
+        d.reset();
 }
 
-// ----- DmtPrincipal, DmtData -----------------------------------------------
+struct DmtPrincipal::Data
+{
+    std::string name;
+};
 
-DmtPrincipal::DmtPrincipal(const DMString &name) : m_name(name.c_str() ? name.c_str() : "") {}
+DmtPrincipal::DmtPrincipal(const DMString &name)
+    : d(std::make_unique<Data>(Data{name.c_str() ? name.c_str() : ""}))
+{
+}
+
+DmtPrincipal::~DmtPrincipal() = default;
 
 const char *DmtPrincipal::getName() const
 {
-    return m_name.c_str();
+    return d->name.c_str();
 }
 
-DmtData::DmtData() = default;
+struct DmtData::Data
+{
+    std::string value;
+};
+
+DmtData::DmtData() : d(std::make_unique<Data>()) {}
 
 DmtData::~DmtData() = default;
 
+SYNCML_DM_RET_STATUS_T DmtData::SetString(const DMString &value)
+{
+    d->value = value.c_str() ? value.c_str() : "";
+    return SYNCML_DM_SUCCESS;
+}
+
 SYNCML_DM_RET_STATUS_T DmtData::GetString(DMString &value) const
 {
-    value.assign(m_value.c_str());
+    value.assign(d->value.c_str());
     return SYNCML_DM_SUCCESS;
 }
 
-void DmtData::setString(const std::string &value)
+DmtNode::~DmtNode() = default;
+
+DmtTree::~DmtTree() = default;
+
+// ----- the simulated tree -----------------------------------------------------
+
+namespace {
+
+// The simulated tree holds a single leaf: the MegaSIM card's name.
+class SimulatedNode : public DmtNode
 {
-    m_value = value;
-}
+public:
+    explicit SimulatedNode(std::string path) : m_path(std::move(path)) {}
 
-// ----- DmtNode, DmtTree -----------------------------------------------------
-
-DmtNode::DmtNode(std::string path) : m_path(std::move(path)) {}
-
-SYNCML_DM_RET_STATUS_T DmtNode::GetValue(DmtData &data) const
-{
-    // The simulated tree holds a single leaf: the MegaSIM card's name.
-    static const std::string nameLeaf = "/MegaSIMName";
-    if (m_path.size() < nameLeaf.size()
-        || m_path.compare(m_path.size() - nameLeaf.size(), nameLeaf.size(), nameLeaf) != 0)
-        return SYNCML_DM_NOT_FOUND;
-    const auto device = KivSim::device();
-    if (!device->megaSim.value)
-        return SYNCML_DM_FAIL;
-    data.setString(device->megaSim.name.toStdString());
-    return SYNCML_DM_SUCCESS;
-}
-
-DmtTree::DmtTree(std::string root) : m_root(std::move(root)) {}
-
-SYNCML_DM_RET_STATUS_T DmtTree::GetNode(const DMString &path, PDmtNode &node)
-{
-    if (!KivSim::device()->megaSim.node) {
-        node.reset();
-        return SYNCML_DM_NOT_FOUND;
+    SYNCML_DM_RET_STATUS_T GetValue(DmtData &data) const override
+    {
+        static const std::string nameLeaf = "/MegaSIMName";
+        if (m_path.size() < nameLeaf.size()
+            || m_path.compare(m_path.size() - nameLeaf.size(), nameLeaf.size(), nameLeaf) != 0)
+            return SYNCML_DM_NOT_FOUND;
+        const auto device = KivSim::device();
+        if (!device->megaSim.value)
+            return SYNCML_DM_FAIL;
+        return data.SetString(DMString(device->megaSim.name.constData()));
     }
-    node = std::make_shared<DmtNode>(m_root + '/' + (path.c_str() ? path.c_str() : ""));
-    return SYNCML_DM_SUCCESS;
-}
 
-// ----- DmtTreeFactory -------------------------------------------------------
+private:
+    std::string m_path;
+};
+
+class SimulatedTree : public DmtTree
+{
+public:
+    explicit SimulatedTree(std::string root) : m_root(std::move(root)) {}
+
+    SYNCML_DM_RET_STATUS_T GetNode(const DMString &path, PDmtNode &node) override
+    {
+        if (!KivSim::device()->megaSim.node) {
+            node.reset();
+            return SYNCML_DM_NOT_FOUND;
+        }
+        node = std::make_shared<SimulatedNode>(m_root + '/' + (path.c_str() ? path.c_str() : ""));
+        return SYNCML_DM_SUCCESS;
+    }
+
+private:
+    std::string m_root;
+};
+
+} // namespace
 
 bool DmtTreeFactory::Initialize()
 {
@@ -106,7 +152,7 @@ SYNCML_DM_RET_STATUS_T DmtTreeFactory::GetSubtree(const DmtPrincipal &principal,
         tree.reset();
         return error;
     }
-    tree = std::make_shared<DmtTree>(subtree.toStdString());
+    tree = std::make_shared<SimulatedTree>(subtree.toStdString());
     return SYNCML_DM_SUCCESS;
 }
 

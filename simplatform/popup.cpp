@@ -12,8 +12,8 @@
 
 namespace {
 
-// Dialogs block only where a person can answer them: not in tests and batch
-// runs on the offscreen or minimal platforms, nor without any application.
+// Not in tests and batch runs on the offscreen or minimal platforms, nor
+// without any application.
 bool hasRealWindowSystem()
 {
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
@@ -22,12 +22,48 @@ bool hasRealWindowSystem()
     return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
 }
 
+// The notice's icon beside its text, and an OK button.
+void buildContents(QDialog *dialog, const QPixmap &titleIcon, const QString &title,
+                   const QString &text)
+{
+    dialog->setWindowTitle(title);
+    auto *message = new QHBoxLayout;
+    if (!titleIcon.isNull()) {
+        dialog->setWindowIcon(QIcon(titleIcon));
+        auto *icon = new QLabel(dialog);
+        icon->setPixmap(titleIcon);
+        icon->setAlignment(Qt::AlignTop);
+        message->addWidget(icon);
+    }
+    auto *label = new QLabel(text, dialog);
+    label->setWordWrap(true);
+    message->addWidget(label, 1);
+
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+
+    auto *layout = new QVBoxLayout(dialog);
+    layout->addLayout(message);
+    layout->addWidget(buttons);
+}
+
 } // namespace
 
 // ----- ZPopup -----------------------------------------------------------------
 
+// What a notice shows; ZMessageDlg fills in its title, text and type.
+struct ZPopup::Data
+{
+    QPixmap titleIcon;
+    QString title;
+    QString text;
+    int type = 0;
+    int timeout = 0; // seconds; 0 waits for the user
+    bool contentsBuilt = false;
+};
+
 ZPopup::ZPopup(QWidget *parent, const char *name, bool modal, Qt::WindowFlags flags)
-    : QDialog(parent, flags)
+    : QDialog(parent, flags), d(std::make_unique<Data>())
 {
     if (name)
         setObjectName(QString::fromLatin1(name));
@@ -38,67 +74,30 @@ ZPopup::~ZPopup() = default;
 
 void ZPopup::setTitleIcon(const QPixmap &icon)
 {
-    m_titleIcon = icon;
+    d->titleIcon = icon;
 }
 
 int ZPopup::exec()
 {
+    const QString title = d->title.isNull() ? windowTitle() : d->title;
     if (KivSim::Journal::enabled()) {
         KivSim::Journal::Line("ZPopup::exec")
-            .arg("title", popupTitle())
-            .arg("text", popupText())
-            .arg("type", popupType())
+            .arg("title", title)
+            .arg("text", d->text)
+            .arg("type", d->type)
             .write();
     }
+    // Dialogs block only where a person can answer them.
     if (!hasRealWindowSystem()) {
         setResult(QDialog::Accepted);
         return QDialog::Accepted;
     }
-    buildContents();
+    if (!d->contentsBuilt)
+        buildContents(this, d->titleIcon, title, d->text);
+    d->contentsBuilt = true;
+    if (d->timeout > 0)
+        QTimer::singleShot(d->timeout * 1000, this, &QDialog::accept);
     return QDialog::exec();
-}
-
-QString ZPopup::popupTitle() const
-{
-    return windowTitle();
-}
-
-QString ZPopup::popupText() const
-{
-    return QString();
-}
-
-int ZPopup::popupType() const
-{
-    return 0;
-}
-
-void ZPopup::buildContents()
-{
-    if (m_contentsBuilt)
-        return;
-    m_contentsBuilt = true;
-    setWindowTitle(popupTitle());
-    if (!m_titleIcon.isNull())
-        setWindowIcon(QIcon(m_titleIcon));
-
-    auto *message = new QHBoxLayout;
-    if (!m_titleIcon.isNull()) {
-        auto *icon = new QLabel(this);
-        icon->setPixmap(m_titleIcon);
-        icon->setAlignment(Qt::AlignTop);
-        message->addWidget(icon);
-    }
-    auto *text = new QLabel(popupText(), this);
-    text->setWordWrap(true);
-    message->addWidget(text, 1);
-
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->addLayout(message);
-    layout->addWidget(buttons);
 }
 
 // ----- ZMessageDlg --------------------------------------------------------------
@@ -106,32 +105,13 @@ void ZPopup::buildContents()
 ZMessageDlg::ZMessageDlg(const QString &title, const QString &text, int type, int timeout,
                          QWidget *parent, const char *name, bool modal, Qt::WindowFlags flags,
                          int display)
-    : ZPopup(parent, name, modal, flags), m_title(title), m_text(text), m_type(type),
-      m_timeout(timeout)
+    : ZPopup(parent, name, modal, flags)
 {
     Q_UNUSED(display); // which of the phone's displays; the desktop has one
+    d->title = title;
+    d->text = text;
+    d->type = type;
+    d->timeout = timeout;
 }
 
 ZMessageDlg::~ZMessageDlg() = default;
-
-QString ZMessageDlg::popupTitle() const
-{
-    return m_title;
-}
-
-QString ZMessageDlg::popupText() const
-{
-    return m_text;
-}
-
-int ZMessageDlg::popupType() const
-{
-    return m_type;
-}
-
-void ZMessageDlg::showEvent(QShowEvent *event)
-{
-    ZPopup::showEvent(event);
-    if (m_timeout > 0)
-        QTimer::singleShot(m_timeout * 1000, this, &QDialog::accept);
-}

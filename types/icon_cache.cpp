@@ -1,5 +1,7 @@
 #include "icon_cache.h"
 
+#include "icon_names.h"
+
 #include "TAMBRO_Global.h"
 
 #include <RES_ICON_Reader.h>
@@ -7,6 +9,9 @@
 #include <QPixmap>
 
 #include <unordered_map>
+
+using Tambro::IconPair;
+namespace Icons = Tambro::Icons;
 
 namespace {
 
@@ -33,31 +38,6 @@ IconCache &iconCache()
     return *cache;
 }
 
-// Small before big, in the order the platform is asked.
-constexpr const char *StandardIcons[] = {
-    "gen_back_to_arrw_small.gif", "gen_back_to_arrw_thb.gif",
-    "fm_bkmrk_small.gif", "fm_bkmrk_thb.gif",
-    "fm_invis_link_small.gif", "fm_invis_link_thb.gif",
-    "fm_pic_small.gif", "fm_pic_thb.gif",
-    "fm_audio_small.gif", "fm_audio_thb.gif",
-    "fm_vid_small.gif", "fm_vid_thb.gif",
-    "fm_voice_record_small.gif", "fm_voice_record_thb.gif",
-    "msg_unsupport_file_type_small.gif", "msg_unsupport_type_thb.gif",
-    "msg_receipt_request_small.gif", "msg_receipt_request_thb.gif",
-    "fm_unknown_small.gif", "fm_unknown_thb.gif",
-    "fm_folder_small.gif", "fm_folder_thb.gif",
-    "fm_folder_carrier_small.gif", "fm_folder_carrier_thb.gif",
-    "Complete_Download_S.gif", "Complete_Download_B.gif",
-    "fm_ringtone_folder_small.gif", "fm_ringtone_folder_thb.gif",
-    "fm_pict_folder_small.gif", "fm_pict_folder_thb.gif",
-    "fm_audio_folder_small.gif", "fm_audio_folder_thb.gif",
-    "fm_vid_folder_small.gif", "fm_vid_folder_thb.gif",
-    "bc_small.gif", "bc_std.png",
-    "fm_voice_record_folder_small.gif", "fm_voice_record_folder_thb.gif",
-    "fm_my_doc_folder_small.gif", "fm_my_doc_folder_thb.gif",
-};
-static_assert(std::size(StandardIcons) == 40);
-
 } // namespace
 
 namespace Tambro {
@@ -66,8 +46,10 @@ void preloadIcons()
 {
     IconCache &cache = iconCache();
     RES_ICON_Reader reader;
-    for (const char *name : StandardIcons)
-        cache.insert_or_assign(QString::fromLatin1(name), reader.getIcon(name, true));
+    for (const IconPair &pair : Icons::Standard) {
+        for (const char *name : {pair.small, pair.big})
+            cache.insert_or_assign(QString::fromLatin1(name), reader.getIcon(name, true));
+    }
 }
 
 } // namespace Tambro

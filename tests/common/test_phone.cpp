@@ -1,10 +1,10 @@
 #include "test_phone.h"
 
 #include <QDir>
+#include <QJsonObject>
 #include <QFile>
 #include <QJsonDocument>
 #include <QSaveFile>
-#include <QStringList>
 
 namespace TestPhone {
 
@@ -17,6 +17,13 @@ void writeOrDie(QFileDevice &file, const QByteArray &data)
 }
 
 } // namespace
+
+void startJournal()
+{
+    const QString path = QDir::tempPath() + QStringLiteral("/kivtambro-test-journal.jsonl");
+    QFile::remove(path);
+    qputenv("KIVSIM_JOURNAL", QFile::encodeName(path));
+}
 
 void setMountTable(const QByteArray &text)
 {
@@ -39,13 +46,6 @@ void setDevice(const QByteArray &ini)
         qFatal("cannot replace the device file: %s", qPrintable(file.errorString()));
 }
 
-void startJournal()
-{
-    const QString path = QDir::tempPath() + QStringLiteral("/kivtambro-test-journal.jsonl");
-    QFile::remove(path);
-    qputenv("KIVSIM_JOURNAL", QFile::encodeName(path));
-}
-
 QList<QByteArray> journalLines()
 {
     QFile file(qEnvironmentVariable("KIVSIM_JOURNAL"));
@@ -56,20 +56,20 @@ QList<QByteArray> journalLines()
     return lines;
 }
 
-QList<QJsonObject> journal()
+QStringList journalled(const char *call, const char *argument)
 {
-    QList<QJsonObject> calls;
-    for (const QByteArray &line : journalLines())
-        calls.append(QJsonDocument::fromJson(line).object());
-    return calls;
+    QStringList values;
+    for (const QByteArray &line : journalLines()) {
+        const QJsonObject entry = QJsonDocument::fromJson(line).object();
+        if (!call || entry.value(QStringLiteral("call")) == QLatin1String(call))
+            values.append(entry.value(QLatin1String(argument)).toString());
+    }
+    return values;
 }
 
 QStringList journalCalls()
 {
-    QStringList names;
-    for (const QJsonObject &call : journal())
-        names.append(call.value(QStringLiteral("call")).toString());
-    return names;
+    return journalled(nullptr, "call");
 }
 
 void clearJournal()

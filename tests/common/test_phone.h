@@ -1,26 +1,26 @@
-// Changes the simulated phone under a running test, and reads what the
-// library asked the platform for. Only meaningful inside a kivsim sandbox.
+// The simulated phone under a running test: its mount table, its device file
+// and the journal of what the library asked the platform.
 #pragma once
 
 #include <QByteArray>
-#include <QJsonObject>
 #include <QList>
 #include <QString>
 
 namespace TestPhone {
 
-// Replaces the mount table, /etc/mtab.
+// Inside kivsim: a fresh journal. Call before the first platform call.
+void startJournal();
+
+// Replaces /etc/mtab (inside kivsim only).
 void setMountTable(const QByteArray &text);
 // Replaces the device file that the simulated platform reads.
 void setDevice(const QByteArray &ini);
-// Starts a fresh journal of platform calls in a temporary file. Call before
-// the first platform call of the process.
-void startJournal();
-// The platform calls journalled so far, and their "call" names.
-QList<QJsonObject> journal();
-QStringList journalCalls();
-// The journal lines, verbatim.
+
+// The platform calls journalled so far: whole lines, "call" names.
 QList<QByteArray> journalLines();
+QStringList journalCalls();
+// The values of one argument of the calls of one name, in order.
+QStringList journalled(const char *call, const char *argument);
 // Forgets what was journalled so far.
 void clearJournal();
 

@@ -1,9 +1,10 @@
-// The context's lazy start-up and process-wide handles. The library builds
-// its state once per process, so CTest runs each function in a process of
-// its own, on a phone with the phone memory and a card mounted.
-#include <TAMBRO_FixedFolder.h>
+// The context's lazy start-up, the scan of the phone's mount table and the
+// process-wide handles. The library builds this state once per process, so
+// each function is a scenario run in a process of its own, on a phone whose
+// phone memory and card are mounted.
 #include <TAMBRO_Global.h>
 
+#include "scenarios.h"
 #include "test_phone.h"
 
 #include <QTest>
@@ -11,8 +12,8 @@
 
 namespace {
 
-const QByteArray PhoneAndCard = "/dev/mtdblock5 /kivlocal/download/tambro jffs2 rw 0 0\n"
-                                "/dev/mmca1 /mmc/mmca1 vfat rw 0 0\n";
+const QByteArray PhoneLine = "/dev/mtdblock5 /kivlocal/download/tambro jffs2 rw 0 0\n";
+const QByteArray PhoneAndCard = PhoneLine + "/dev/mmca1 /mmc/mmca1 vfat rw 0 0\n";
 
 int scansJournalled()
 {
@@ -36,8 +37,7 @@ private Q_SLOTS:
     {
         QVERIFY(!TAMBRO_Global::initMemFlag);
         TAMBRO_Global *first = TAMBRO_Global::instance();
-        QVERIFY(first);
-        QVERIFY(TAMBRO_Global::initMemFlag);
+        QVERIFY(first && TAMBRO_Global::initMemFlag);
         QCOMPARE(TAMBRO_Global::instance(), first);
         QCOMPARE(TAMBRO_Global::getPartiActNumber(), 2);
         QCOMPARE(scansJournalled(), 1);
@@ -45,12 +45,10 @@ private Q_SLOTS:
 
     void tableIsASnapshotUntilTheFlagIsCleared()
     {
-        TestPhone::setMountTable("/dev/mtdblock5 /kivlocal/download/tambro jffs2 rw 0 0\n");
+        TestPhone::setMountTable(PhoneLine);
         QCOMPARE(TAMBRO_Global::getPartiActNumber(), 1);
         TestPhone::setMountTable(PhoneAndCard);
-        QCOMPARE(TAMBRO_Global::getPartiActNumber(), 1);
         QVERIFY(!TAMBRO_Global::hasMMCSDCard());
-
         TAMBRO_Global::initMemFlag = false;
         QCOMPARE(TAMBRO_Global::getPartiActNumber(), 2);
         QCOMPARE(scansJournalled(), 2);
@@ -58,20 +56,15 @@ private Q_SLOTS:
 
     void queriesWithoutTableAnswerNeutrally()
     {
-        QVERIFY(!TAMBRO_Global::isPhone(1));
-        QVERIFY(!TAMBRO_Global::isCards(2));
-        QVERIFY(!TAMBRO_Global::writeProtected(1));
-        QVERIFY(!TAMBRO_Global::isUnformattedParti(2));
-        QVERIFY(!TAMBRO_Global::isInvalidParti(2));
+        QVERIFY(!TAMBRO_Global::isPhone(1) && !TAMBRO_Global::isCards(2));
+        QVERIFY(!TAMBRO_Global::writeProtected(1) && !TAMBRO_Global::isInvalidParti(2));
         QCOMPARE(TAMBRO_Global::getPartiDevName(1), QString(""));
         QCOMPARE(TAMBRO_Global::getPhoneNoi(), -1);
         // Looked up before anything is built, so there is no path yet...
         QVERIFY(TAMBRO_Global::getMountedPath(2).isNull());
-        QVERIFY(!TAMBRO_Global::initMemFlag);
-        QVERIFY(TestPhone::journal().isEmpty());
+        QVERIFY(TestPhone::journalLines().isEmpty());
         // ...while the default card partition builds the table first.
         QCOMPARE(TAMBRO_Global::getDefaultMMCSDPartition(), QStringLiteral("/mmc/mmca1"));
-        QCOMPARE(TAMBRO_Global::getMountedPath(2), QStringLiteral("/mmc/mmca1"));
     }
 
     // A client may set the public flag before the first scan: no table then.
@@ -79,10 +72,8 @@ private Q_SLOTS:
     {
         TAMBRO_Global::initMemFlag = true;
         QCOMPARE(TAMBRO_Global::getPartiActNumber(), 0);
-        QVERIFY(!TAMBRO_Global::isDeviceMounted("/dev/mmca1"));
-        QVERIFY(!TAMBRO_Global::isDeviceMounted(2));
+        QVERIFY(!TAMBRO_Global::isDeviceMounted("/dev/mmca1") && !TAMBRO_Global::isDeviceMounted(2));
         QVERIFY(TAMBRO_Global::getDefaultMMCSDPartition().isNull());
-        QVERIFY(TAMBRO_Global::getPartiShortName(1).isNull());
         QCOMPARE(scansJournalled(), 0);
     }
 
@@ -90,7 +81,7 @@ private Q_SLOTS:
     // table replaces the entries of the first, small one.
     void mountedPathSurvivesTheRescanItStarts()
     {
-        TestPhone::setMountTable("/dev/mtdblock5 /kivlocal/download/tambro jffs2 rw 0 0\n");
+        TestPhone::setMountTable(PhoneLine);
         QCOMPARE(TAMBRO_Global::getPartiActNumber(), 1);
         TestPhone::setMountTable(PhoneAndCard + "/dev/b /mmc/megasim1 vfat rw 0 0\n" + PhoneAndCard);
         TAMBRO_Global::initMemFlag = false;
@@ -100,110 +91,68 @@ private Q_SLOTS:
     void labelAndLockBuildOnlyAMissingTable()
     {
         QCOMPARE(TAMBRO_Global::getPartiLabel(1), QStringLiteral("/kivlocal/d"));
-        QCOMPARE(scansJournalled(), 1);
         TestPhone::setMountTable(QByteArray());
         TAMBRO_Global::initMemFlag = false;
         QVERIFY(!TAMBRO_Global::isCardLocked(2));
         QCOMPARE(TAMBRO_Global::getPartiLabel(1), QStringLiteral("/kivlocal/d"));
         QCOMPARE(scansJournalled(), 1);
-        // Any initialising query rescans.
+        QCOMPARE(TAMBRO_Global::getPartiActNumber(), 0); // any initialising query rescans
+    }
+
+    // The card driver once per card record, the tree once per MegaSIM, the
+    // card status once at the end.
+    void scanAsksThePlatformRecordByRecord()
+    {
+        TestPhone::setMountTable("/dev/b /mmc/megasim1 vfat rw 0 0\n" + PhoneAndCard);
+        TAMBRO_Global::instance();
+        QStringList calls = TestPhone::journalCalls();
+        calls.removeAll(QStringLiteral("RES_ICON_Reader::getIcon")); // the standard icons, after the scan
+        QCOMPARE(calls,
+                 (QStringList{"DmtTreeFactory::Initialize", "DmtTreeFactory::GetSubtree",
+                              "DmtTreeFactory::Uninitialize", "UTIL_GetMMCSDInfo",
+                              "UTIL_GetMMCSDStatus"}));
+        QCOMPARE(TestPhone::journalled("UTIL_GetMMCSDInfo", "device"), QStringList{"/dev/mmca"});
+    }
+
+    // Read in part, a table could list a storage that is not there.
+    void mountTableOverTheLimitIsNotRead()
+    {
+        TestPhone::setMountTable(PhoneAndCard + QByteArray(1 << 20, '#'));
+        QTest::ignoreMessage(QtWarningMsg, "the mount table /etc/mtab is larger than 1048576 bytes "
+                                           "and is not read: no storage is listed from it");
         QCOMPARE(TAMBRO_Global::getPartiActNumber(), 0);
-        QCOMPARE(scansJournalled(), 2);
     }
 
     void registryIsCreatedOnce()
     {
         TAMBRO_Global::instance();
-        QVERIFY(!TestPhone::journalCalls().contains(QStringLiteral("AM_MimeRegistry::init")));
         AM_MimeRegistry *registry = TAMBRO_Global::getAmMimeRegInstance();
         QVERIFY(registry);
         QCOMPARE(TAMBRO_Global::getAmMimeRegInstance(), registry);
         QCOMPARE(TestPhone::journalLines().count(R"({"call":"AM_MimeRegistry::init","type":0})"), 1);
     }
 
-    void compareStringSendsByteSwappedUnits_data()
-    {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
-        QTest::addColumn<QByteArray>("line");
-
-        QTest::newRow("letters") << "a" << "b"
-                                 << QByteArray(R"({"call":"sortmethods_str_cmp","first":[24832,0],"second":[25088,0]})");
-        QTest::newRow("empty strings") << "" << ""
-                                       << QByteArray(R"({"call":"sortmethods_str_cmp","first":[0],"second":[0]})");
-        QTest::newRow("both bytes swapped") << QStringLiteral("\u20ac") << QStringLiteral("\U0001F600")
-                                            << QByteArray(R"({"call":"sortmethods_str_cmp","first":[44064,0],"second":[15832,222,0]})");
-    }
-
     void compareStringSendsByteSwappedUnits()
     {
-        QFETCH(QString, first);
-        QFETCH(QString, second);
-        QFETCH(QByteArray, line);
-        TestPhone::clearJournal();
-        TAMBRO_Global::compareString(first, second);
-        QCOMPARE(TestPhone::journalLines(), QList<QByteArray>{line});
+        TAMBRO_Global::compareString(QString(), QString());
+        TAMBRO_Global::compareString(QStringLiteral("a\u20ac"), QStringLiteral("\U0001F600"));
+        QCOMPARE(TestPhone::journalLines(),
+                 (QList<QByteArray>{R"({"call":"sortmethods_str_cmp","first":[0],"second":[0]})",
+                                    R"({"call":"sortmethods_str_cmp","first":[24832,44064,0],"second":[15832,222,0]})"}));
     }
 
-    void compareStringSortsLikeAPerson_data()
-    {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
-        QTest::addColumn<int>("sign");
-
-        QTest::newRow("numbers by value") << "file2" << "file10" << -1;
-        QTest::newRow("case ignored") << "apple" << "Banana" << -1;
-        QTest::newRow("case ignored, reversed") << "Banana" << "apple" << 1;
-        QTest::newRow("equal") << "same" << "same" << 0;
-        QTest::newRow("empty first") << "" << "a" << -1;
-    }
-
-    void compareStringSortsLikeAPerson()
-    {
-        QFETCH(QString, first);
-        QFETCH(QString, second);
-        QFETCH(int, sign);
-        const int result = TAMBRO_Global::compareString(first, second);
-        QCOMPARE((result > 0) - (result < 0), sign);
-    }
-
-    void clientFlagsAreLeftAlone()
-    {
-        TAMBRO_Global::instance();
-        TAMBRO_Global::getPhoneNoi();
-        TAMBRO_Global::getDefaultMMCSDPartition();
-        QCOMPARE(TAMBRO_Global::phoneNoi, -1);
-        QVERIFY(!TAMBRO_Global::bSetLocaleFlag);
-        QVERIFY(!TAMBRO_Global::bmemberPasteCancelFlag);
-    }
-
-    void deviceNameIsTheRootPath()
-    {
-        TAMBRO_FixedFolder::m_sFMRootPath = QStringLiteral("/somewhere/else");
-        QCOMPARE(TAMBRO_Global::getDeviceName(), QStringLiteral("/somewhere/else"));
-        QVERIFY(!TAMBRO_Global::initMemFlag);
-    }
-
+    // Run in French, for which no catalogue exists.
     void namesAreEnglishWithoutACatalogueForTheLanguage()
     {
-        // CTest runs this one with a French locale, for which no catalogue exists.
         QCOMPARE(TAMBRO_Global::getPartiShortName(1), QStringLiteral("My Files"));
         QCOMPARE(TAMBRO_Global::getPartiShortName(2), QStringLiteral("Memory Card"));
     }
 
+    // Run in German.
     void userLanguageCatalogueIsLoadedAtStartup()
     {
-        // CTest runs this one with a German locale.
         QCOMPARE(TAMBRO_Global::getPartiShortName(1), QStringLiteral("Eigene Dateien"));
         QCOMPARE(TAMBRO_Global::getPartiShortName(2), QStringLiteral("Speicherkarte"));
-    }
-
-    void englishCatalogueIsLoadedAtStartup()
-    {
-        // Asked of Qt directly, so the library's own fallback cannot answer.
-        QCOMPARE(QCoreApplication::translate("TAMBRO_Global", "TXT_RID_LIST_A_MEMORY_CARD",
-                                             "Memory Card"),
-                 QStringLiteral("Memory Card"));
     }
 
     void anotherLanguageIsOneMoreCatalogue()
@@ -217,5 +166,9 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestGlobalContext)
+KIVTAMBRO_SCENARIO_MAIN(TestGlobalContext,
+                        {{"namesAreEnglishWithoutACatalogueForTheLanguage",
+                          {QString(), {"LANG=fr_FR.UTF-8", "LC_ALL=fr_FR.UTF-8"}}},
+                         {"userLanguageCatalogueIsLoadedAtStartup",
+                          {QString(), {"LANG=de_DE.UTF-8", "LC_ALL=de_DE.UTF-8"}}}})
 #include "tst_global_context.moc"

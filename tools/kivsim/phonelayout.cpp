@@ -23,10 +23,10 @@ QList<Storage> allStorages(const SandboxSettings &settings)
 {
     return {
         {QStringLiteral("phone memory"), QStringLiteral("phone"),
-         QStringLiteral("/kivlocal/download/tambro"), settings.phoneSize},
-        {QStringLiteral("memory card"), QStringLiteral("card"), QStringLiteral("/mmc/mmca1"),
+         QLatin1String(KivPaths::PhoneMemory), settings.phoneSize},
+        {QStringLiteral("memory card"), QStringLiteral("card"), QLatin1String(KivPaths::MemoryCard),
          settings.cardSize},
-        {QStringLiteral("MegaSIM"), QStringLiteral("megasim"), QStringLiteral("/mmc/megasim1"),
+        {QStringLiteral("MegaSIM"), QStringLiteral("megasim"), QLatin1String(KivPaths::MegaSim),
          settings.megaSimSize},
     };
 }

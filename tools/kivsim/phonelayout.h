@@ -4,6 +4,8 @@
 
 #include "sandboxsettings.h"
 
+#include "platform/KIV_Paths.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -16,9 +18,9 @@ inline const QString kivsimFolder = QStringLiteral("/run/kivsim");
 inline const QString deviceFolder = QStringLiteral("/run/kivsim/device");
 inline const QString deviceFile = QStringLiteral("/run/kivsim/device/device.ini");
 inline const QString runtimeFolder = QStringLiteral("/run/kivsim/runtime");
-inline const QString mountTable = QStringLiteral("/etc/mtab");
-inline const QString preloadRoot = QStringLiteral("/usr/data_resource");
-inline const QString systemConfigFolder = QStringLiteral("/usr/SYSqtapp/tambro");
+inline const QString mountTable = QLatin1String(KivPaths::MountTable);
+inline const QString preloadRoot = QLatin1String(KivPaths::PreloadRoot);
+inline const QString systemConfigFolder = QLatin1String(KivPaths::FileManagerSystemFolder);
 
 // A storage of the phone: a size-limited folder filled from the device folder.
 struct Storage

@@ -2,6 +2,8 @@
 // Only kivsim reads it; the simulated platform ignores it.
 #pragma once
 
+#include "platform/KIV_Paths.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -17,7 +19,7 @@ struct SandboxSettings
     qint64 megaSimSize = 0;
     // Given to the program as written, so that odd values can be tried. Only
     // the write path gets a folder; the data path normally names a storage.
-    QString dataPath = QStringLiteral("/kivlocal/download/tambro");
+    QString dataPath = QLatin1String(KivPaths::PhoneMemory);
     QString writePath = QStringLiteral("/kivlocal/appdata");
 
     // Values that cannot be used keep their defaults; each is reported in

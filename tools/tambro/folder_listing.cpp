@@ -16,14 +16,14 @@ QByteArray bytesUnlessText(const DiskEntry &entry)
     return entry.nameIsText() ? QByteArray() : entry.nameBytes;
 }
 
-// Fixed folders carry their own icons and names; any other folder gets the
-// generic ones.
+// Fixed folders carry their own icons and names. Any other folder gets the
+// generic ones, which the structure gives a folder it does not name: asked
+// by the path as a name when the folder lies outside the root.
 ListedEntry folderEntry(const QString &path, const DiskEntry &entry)
 {
     FixedFolder folder;
     if (!TAMBRO_FixedFolder::getFolder(path, folder, true))
-        folder = {QStringLiteral("fm_folder_thb.gif"), QStringLiteral("fm_folder_small.gif"),
-                  entry.name, QString()};
+        TAMBRO_FixedFolder::getFolder(path, folder, false);
     return {entry.name, bytesUnlessText(entry), folder.displayName, true, folder.bigIcon,
             folder.smallIcon};
 }

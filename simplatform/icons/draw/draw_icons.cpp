@@ -7,6 +7,8 @@
 // committed set from the source root with
 //   cmake --build build --target kivsim_draw_icons && build/simplatform/icons/draw/kivsim_draw_icons simplatform/icons
 
+#include "types/icon_names.h"
+
 #include <QDir>
 #include <QImage>
 #include <QPainter>
@@ -541,69 +543,55 @@ struct Icon
 // Every icon that the file manager asks the platform for, by its exact name.
 const std::vector<Icon> &iconSet()
 {
-    static const std::vector<Icon> icons = {
-        {"fm_audio_thb.gif", Big, musicNote},
-        {"fm_audio_small.gif", Small, musicNote},
-        {"fm_pic_thb.gif", Big, photo},
-        {"fm_pic_small.gif", Small, photo},
-        {"fm_vid_thb.gif", Big, filmStrip},
-        {"fm_vid_small.gif", Small, filmStrip},
-        {"fm_java_midlet_thb.gif", Big, coffeeCup},
-        {"fm_java_midlet_small.gif", Small, coffeeCup},
-        {"msg_unsupport_type_thb.gif", Big, onPage(noHandlerMark)},
-        {"msg_unsupport_file_type_small.gif", Small, onPage(noHandlerMark)},
-        {"Partial_Download_B.gif", Big, partialDownload},
-        {"Partial_Download_S.gif", Small, partialDownload},
-        {"Complete_Download_B.gif", Big, completeDownload},
-        {"Complete_Download_S.gif", Small, completeDownload},
-        {"fm_voice_record_thb.gif", Big, microphone},
-        {"fm_voice_record_small.gif", Small, microphone},
-        {"fm_text_thb.gif", Big, onPage(textMark)},
-        {"fm_text_small.gif", Small, onPage(textMark)},
-        {"fm_bkmrk_thb.gif", Big, bookmarkRibbon},
-        {"fm_bkmrk_small.gif", Small, bookmarkRibbon},
-        {"fm_save_im_conv_thb.gif", Big, conversation},
-        {"fm_save_im_conv_small.gif", Small, conversation},
-        {"pfile_light_thb.gif", Big, lightBulb},
-        {"pfile_light_small.gif", Small, lightBulb},
-        {"fm_vcf_thb.gif", Big, contactCard},
-        {"fm_vcf_small.gif", Small, contactCard},
-        {"fm_vcs_thb.gif", Big, calendarPage},
-        {"fm_vcs_small.gif", Small, calendarPage},
-        {"msg_receipt_request_thb.gif", Big, onPage(sealMark)},
-        {"msg_receipt_request_small.gif", Small, onPage(sealMark)},
-        {"fm_unknown_thb.gif", Big, onPage(questionMark)},
-        {"fm_unknown_small.gif", Small, onPage(questionMark)},
-        {"gen_back_to_arrw_thb.gif", Big, backArrow},
-        {"gen_back_to_arrw_small.gif", Small, backArrow},
-        {"fm_invis_link_thb.gif", Big, hiddenLink},
-        {"fm_invis_link_small.gif", Small, hiddenLink},
-        {"fm_folder_thb.gif", Big, folder},
-        {"fm_folder_small.gif", Small, folder},
-        {"fm_folder_carrier_thb.gif", Big, folderWith(signalBars)},
-        {"fm_folder_carrier_small.gif", Small, folderWith(signalBars)},
-        {"fm_ringtone_folder_thb.gif", Big, folderWith(bell)},
-        {"fm_ringtone_folder_small.gif", Small, folderWith(bell)},
-        {"fm_pict_folder_thb.gif", Big, folderWith(photo)},
-        {"fm_pict_folder_small.gif", Small, folderWith(photo)},
-        {"fm_audio_folder_thb.gif", Big, folderWith(musicNote)},
-        {"fm_audio_folder_small.gif", Small, folderWith(musicNote)},
-        {"fm_vid_folder_thb.gif", Big, folderWith(filmStrip)},
-        {"fm_vid_folder_small.gif", Small, folderWith(filmStrip)},
-        {"fm_voice_record_folder_thb.gif", Big, folderWith(microphone)},
-        {"fm_voice_record_folder_small.gif", Small, folderWith(microphone)},
-        {"fm_my_doc_folder_thb.gif", Big, folderWith(onPage(textMark))},
-        {"fm_my_doc_folder_small.gif", Small, folderWith(onPage(textMark))},
-        {"fm_phone_mem_small.gif", Small, phone},
-        {"fm_memory_card_thb.gif", Big, memoryCard},
-        {"fm_memory_card_small.gif", Small, memoryCard},
-        {"ctact_sim_thb.gif", Big, simCard},
-        {"ctact_sim_small.gif", Small, simCard},
-        {"bc_std.png", Big, businessCard},
-        {"bc_small.gif", Small, businessCard},
-        {"info_pop.gif", Notice, informationSign},
-        {"error_pop.gif", Notice, errorSign},
+    namespace I = Tambro::Icons;
+    struct Pair
+    {
+        Tambro::IconPair names;
+        Picture draw;
     };
+    static const Pair pairs[] = {
+        {I::Audio, musicNote},
+        {I::Picture, photo},
+        {I::Video, filmStrip},
+        {I::JavaApplication, coffeeCup},
+        {I::Unsupported, onPage(noHandlerMark)},
+        {I::PartialDownload, partialDownload},
+        {I::CompleteDownload, completeDownload},
+        {I::VoiceRecord, microphone},
+        {I::Text, onPage(textMark)},
+        {I::Bookmark, bookmarkRibbon},
+        {I::SavedConversation, conversation},
+        {I::LightPattern, lightBulb},
+        {I::Contact, contactCard},
+        {I::Calendar, calendarPage},
+        {I::OtherFile, onPage(sealMark)},
+        {I::Unknown, onPage(questionMark)},
+        {I::BackArrow, backArrow},
+        {I::InvisibleLink, hiddenLink},
+        {I::Folder, folder},
+        {I::CarrierFolder, folderWith(signalBars)},
+        {I::RingToneFolder, folderWith(bell)},
+        {I::PictureFolder, folderWith(photo)},
+        {I::AudioFolder, folderWith(musicNote)},
+        {I::VideoFolder, folderWith(filmStrip)},
+        {I::VoiceRecordFolder, folderWith(microphone)},
+        {I::DocumentFolder, folderWith(onPage(textMark))},
+        {I::MemoryCard, memoryCard},
+        {I::SimCard, simCard},
+        {I::BusinessCard, businessCard},
+    };
+    static_assert(std::size(pairs) == std::size(I::AllPairs), "every pair the library names is drawn");
+    static const std::vector<Icon> icons = [] {
+        std::vector<Icon> all;
+        for (const Pair &pair : pairs) {
+            all.push_back({pair.names.big, Big, pair.draw});
+            all.push_back({pair.names.small, Small, pair.draw});
+        }
+        all.push_back({I::PhoneMemory, Small, phone});
+        all.push_back({I::InformationNotice, Notice, informationSign});
+        all.push_back({I::ErrorNotice, Notice, errorSign});
+        return all;
+    }();
     return icons;
 }
 

@@ -1,4 +1,5 @@
-// The simulated phone's device file of one test process, in a temporary folder.
+// A simulated phone outside kivsim: the device file of one test process, and
+// its journal, in a temporary folder.
 #pragma once
 
 #include <QDateTime>
@@ -10,10 +11,12 @@
 class TestDeviceFile
 {
 public:
-    // Names the file in KIVSIM_DEVICE; construct it before the first platform call.
+    // Names the files in KIVSIM_DEVICE and KIVSIM_JOURNAL; construct it
+    // before the first platform call.
     TestDeviceFile() : m_path(m_dir.filePath(QStringLiteral("device.ini")))
     {
         qputenv("KIVSIM_DEVICE", QFile::encodeName(m_path));
+        qputenv("KIVSIM_JOURNAL", QFile::encodeName(m_dir.filePath(QStringLiteral("journal.jsonl"))));
     }
 
     // Every write gets a later modification time, so that a rewrite of the same

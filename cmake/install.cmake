@@ -1,18 +1,19 @@
 # Installs the library with its headers, a CMake package
-# (find_package(KivTambroBase) -> KivTambro::Base) and a pkg-config file.
+# (find_package(KivTambroBase) -> KivTambro::Base) and a pkg-config file: the
+# component "library". The phone platform it links is not part of it.
 include(CMakePackageConfigHelpers)
 
 set(KIVTAMBRO_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/KivTambroBase)
 
 install(TARGETS kivtambro-base EXPORT KivTambroBaseTargets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library)
 file(GLOB public_headers ${PROJECT_SOURCE_DIR}/include/*.h)
 install(FILES ${public_headers} ${PROJECT_BINARY_DIR}/include/kivtambro_export.h
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kivtambro-base)
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kivtambro-base COMPONENT library)
 
 install(EXPORT KivTambroBaseTargets
     NAMESPACE KivTambro::
-    DESTINATION ${KIVTAMBRO_CMAKE_DIR})
+    DESTINATION ${KIVTAMBRO_CMAKE_DIR} COMPONENT library)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/KivTambroBaseConfig.cmake.in
     ${PROJECT_BINARY_DIR}/KivTambroBaseConfig.cmake
     INSTALL_DESTINATION ${KIVTAMBRO_CMAKE_DIR})
@@ -21,7 +22,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/KivTambroBaseConfigVersio
 install(FILES
     ${PROJECT_BINARY_DIR}/KivTambroBaseConfig.cmake
     ${PROJECT_BINARY_DIR}/KivTambroBaseConfigVersion.cmake
-    DESTINATION ${KIVTAMBRO_CMAKE_DIR})
+    DESTINATION ${KIVTAMBRO_CMAKE_DIR} COMPONENT library)
 
 # The .pc file finds the prefix from its own place, so that an install with
 # `cmake --install --prefix` elsewhere still describes itself correctly.
@@ -29,4 +30,4 @@ file(RELATIVE_PATH KIVTAMBRO_PC_TO_PREFIX /prefix/${CMAKE_INSTALL_LIBDIR}/pkgcon
 configure_file(${CMAKE_CURRENT_LIST_DIR}/kivtambro-base.pc.in
     ${PROJECT_BINARY_DIR}/kivtambro-base.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/kivtambro-base.pc
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT library)

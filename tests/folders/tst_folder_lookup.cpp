@@ -68,8 +68,6 @@ private Q_SLOTS:
             << "/usr/data_resource/odd" << true << "/usr/data_resourceAD:/middle" << "";
         QTest::newRow("no parent_path empties the path only")
             << "/usr/data_resource/orphan" << false << "" << Untouched;
-        QTest::newRow("no group at all")
-            << "/usr/data_resource/unknown" << false << "" << Untouched;
         QTest::newRow("a user's folder has none")
             << Root + "/alpha" << false << Untouched << Untouched;
     }
@@ -97,7 +95,6 @@ private Q_SLOTS:
 
         const QString tones = QStringLiteral("/usr/data_resource/tones/");
         QTest::newRow("translated, with extension") << tones + "Beep.mid" << true << true << "Piep.mid";
-        QTest::newRow("untranslated keeps its name") << tones + "Tune.mid" << true << true << "Tune.mid";
         QTest::newRow("only the last dot ends the base") << tones + "Beep.v2.mid" << true << true << "Beep.v2.mid";
         QTest::newRow("dot file is all extension") << tones + ".hidden" << true << true << ".hidden";
         QTest::newRow("dot file without extension") << tones + ".hidden" << false << true << "";
@@ -108,7 +105,6 @@ private Q_SLOTS:
             << "/usr/data_resource.mid" << true << true << "data_resource.mid";
         QTest::newRow("outside the preloaded content") << Root + "/Beep.mid" << true << false << Untouched;
         QTest::newRow("slash only at the start") << "/Beep.mid" << true << false << Untouched;
-        QTest::newRow("no slash") << "Beep.mid" << true << false << Untouched;
     }
 
     void preloadFileName()

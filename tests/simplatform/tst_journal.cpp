@@ -5,7 +5,6 @@
 #include "UTIL_MimeType.h"
 #include "ZConfig.h"
 #include "ZMessageDlg.h"
-#include "sortmethods.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -39,17 +38,10 @@ private Q_SLOTS:
             action.setValue("SortType", 2);
             action.invoke(false);
         }) << QByteArray(R"({"call":"AM_ActionData::invoke","action":"ViewImagebyName","values":[["FileName","/x.jpg"],["SortType",2]]})");
-        QTest::newRow("sorter units with their terminator") << Call([] {
-            const unsigned short a[] = {0x6100, 0}, empty[] = {0};
-            sortmethods_str_cmp(a, empty);
-        }) << QByteArray(R"({"call":"sortmethods_str_cmp","first":[24832,0],"second":[0]})");
         QTest::newRow("quotes, controls and non-ASCII escaped as JSON") << Call([] {
             ZMessageDlg(QString::fromUtf8("Say \"h\u00E9\" \\ \u2713"), "a\nb\tc\x01", 2, 0).exec();
         }) << QByteArray("{\"call\":\"ZPopup::exec\",\"title\":\"Say \\\"h\xC3\xA9\\\" \\\\ \xE2\x9C\x93\","
                          "\"text\":\"a\\nb\\tc\\u0001\",\"type\":2}");
-        QTest::newRow("handler, without its inner look-ups")
-            << Call([] { AM_MimeRegistry().getDefaultHandlerId(MIME_LOOKUP_BY_EXTENSION, "txt", QString()); })
-            << QByteArray(R"({"call":"AM_MimeRegistry::getDefaultHandlerId","criterion":0,"key":"txt"})");
         QTest::newRow("not journaled: extensions, picture test, configuration, tree nodes") << Call([] {
             AM_MimeRegistry().getAssociatedExtensions("audio/mpeg");
             UTIL_MimeType::isPicture("/a/b.jpg");

@@ -7,7 +7,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <climits>
 #include <sys/stat.h>
 
 namespace {
@@ -130,11 +129,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("warning"); // empty: none
 
         QTest::newRow("missing file: nothing to say") << "missing.ini" << "";
-        QTest::newRow("folder") << "." << "is a folder";
         // Opening a FIFO for reading would wait for a writer for ever.
         QTest::newRow("FIFO is not opened") << "fifo" << "is a FIFO";
-        // /dev/zero never ends.
-        QTest::newRow("device is not read") << "zero" << "is a device";
         QTest::newRow("over the size limit: refused whole") << "large.ini" << "is larger than";
         // Read: its one line of NUL bytes after the entry is skipped.
         QTest::newRow("at the size limit: read") << "limit.ini" << "NUL byte";
@@ -149,8 +145,6 @@ private Q_SLOTS:
         QFile file(path);
         if (name == QLatin1String("fifo"))
             QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-        else if (name == QLatin1String("zero"))
-            QVERIFY(QFile::link(QStringLiteral("/dev/zero"), path));
         else if (name.endsWith(QLatin1String(".ini")) && name != QLatin1String("missing.ini"))
             QVERIFY(file.open(QIODevice::WriteOnly) && file.write("[s]\nk=v\n")
                     && file.resize(KeyFile::maxFileBytes + (name == QLatin1String("large.ini"))));
@@ -161,32 +155,22 @@ private Q_SLOTS:
         QCOMPARE(loaded.value("s", "k"), name == QLatin1String("limit.ini") ? "v" : QString());
     }
 
-    // ZConfig: groups and entries of a file, and the defaults of the phone's reader.
+    // ZConfig: what the fuzz target cannot tell, since it reads only what the parse found.
     void configurationReader()
     {
         QTemporaryDir dir;
         const QString path = dir.filePath(QStringLiteral("config.cfg"));
         QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly)
-                && file.write("[g]\nvoice = /v \nimage=/i\nempty=\n[none]\n[n]\nmax=2147483647\nmin=-2147483648\n"
-                              "above=2147483648\nbig=0x80000000\nbad\n"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("[g]\nvoice = /v \nimage=/i\nempty=\n[none]\nbad\n"));
         file.close();
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(path) + ":11: "));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(path) + ":6: "));
         const ZConfig config(path, false);
-
         QMap<QString, QString> entries{{"stale", "from an earlier call"}};
         QVERIFY(config.getGroupEntriesKeyList("g", entries));
         QCOMPARE(entries.keys(), (QStringList{"empty", "image", "voice"})); // by key, not by line
         QVERIFY(config.getGroupEntriesKeyList("none", entries) && entries.isEmpty());
-        QVERIFY(!config.getGroupEntriesKeyList("G", entries));
-        QCOMPARE(config.readEntry("g", "voice", "d"), QStringLiteral("/v "));
-        QCOMPARE(config.readEntry("g", "empty", "d"), QStringLiteral(""));
-        QCOMPARE(config.readEntry("g", "other", "d"), QStringLiteral("d"));
-        QCOMPARE(config.readNumEntry("n", "max", 9), INT_MAX);
-        QCOMPARE(config.readNumEntry("n", "min", 9), INT_MIN);
-        QCOMPARE(config.readNumEntry("n", "above", 9), 9);
-        QCOMPARE(config.readNumEntry("n", "big", 9), 9);
-        QCOMPARE(config.readNumEntry("g", "empty", 9), 9);
+        QVERIFY(!config.getGroupEntriesKeyList("G", entries) && entries.isEmpty());
+        QCOMPARE(config.readEntry("g", "empty", "d") + config.readEntry("g", "other", "d"), QStringLiteral("d"));
     }
 
     void configurationFileMadeOnlyWhenAsked()

@@ -144,26 +144,15 @@ private Q_SLOTS:
     void quotedTypeKeepsItsBlanks()
     {
         QVERIFY(m_device.write("[mime]\nodd = \"  audio/x-odd \"\nbare =   audio/bare  \n"));
-        QCOMPARE(m_registry.getAssociatedMimeType("odd"), QStringLiteral("  audio/x-odd "));
-        QCOMPARE(m_registry.getAssociatedMimeType("bare"), QStringLiteral("audio/bare"));
+        QCOMPARE(m_registry.getAssociatedMimeType("odd") + m_registry.getAssociatedMimeType("bare"),
+                 QStringLiteral("  audio/x-odd audio/bare"));
     }
 
-    void isPicture_data()
+    void isPictureByTheLastDot()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("expected");
-
-        QTest::newRow("listed image type, any case") << "/a/photo.JPG" << true;
-        QTest::newRow("dot in a folder name only") << "/a.jpg/readme" << false;
-        QTest::newRow("a hidden file's name is its extension") << "/a/.jpg" << true;
-    }
-
-    void isPicture()
-    {
-        QFETCH(QString, path);
-        QFETCH(bool, expected);
-        QVERIFY(m_device.write("[mime]\njpg = image/jpeg\nmp3 = audio/mpeg\n"));
-        QCOMPARE(UTIL_MimeType::isPicture(path), expected);
+        QVERIFY(m_device.write("[mime]\njpg = image/jpeg\n"));
+        QVERIFY(UTIL_MimeType::isPicture("/a/photo.JPG") && UTIL_MimeType::isPicture("/a/.jpg"));
+        QVERIFY(!UTIL_MimeType::isPicture("/a.jpg/readme"));
     }
 
     // Each answer is remembered until the device file changes, however fast.

@@ -11,22 +11,10 @@ namespace {
 
 // Makes every row of the icon table reachable; downloads of kind "cmd" have
 // no handler, those of kind "cim" have one.
-const QByteArray Registry = "[mime]\n"
-                            "mp3 = audio/mpeg\n"
-                            "jpg = image/jpeg\n"
-                            "mp4 = video/mp4\n"
-                            "[handlers]\n"
-                            "audio/* = com.kiv.player\n"
-                            "video/* = com.kiv.player\n"
-                            "pdf = com.kiv.reader\n"
-                            "cim = com.kiv.download\n"
-                            "txt = com.kiv.notepad\n"
-                            "amr = com.kiv.recorder\n"
-                            "url = com.kiv.browser\n"
-                            "im = com.kiv.im\n"
-                            "gnx = com.kiv.lights\n"
-                            "vcf = com.kiv.contacts\n"
-                            "vcs = com.kiv.calendar\n";
+const QByteArray Registry = "[mime]\nmp3 = audio/mpeg\njpg = image/jpeg\nmp4 = video/mp4\n"
+                            "[handlers]\naudio/* = com.kiv.player\nvideo/* = com.kiv.player\n"
+                            "pdf = reader\ncim = loader\ntxt = notepad\namr = recorder\nurl = browser\n"
+                            "im = chat\ngnx = lights\nvcf = contacts\nvcs = calendar\n";
 
 // The big icon that pairs with a small one.
 QString bigOf(const QString &small)
@@ -119,6 +107,16 @@ private Q_SLOTS:
         const QString big = TAMBRO_Global::getFileIconByType(name, true);
         QCOMPARE(TAMBRO_Global::getFileIconByType(name, false), small);
         QCOMPARE(bigOf(small), big);
+    }
+
+    // The simulated phone draws every icon the library names.
+    void everyNamedIconIsInTheStore()
+    {
+        QStringList names{Tambro::Icons::Singles, std::end(Tambro::Icons::Singles)};
+        for (const Tambro::IconPair &pair : Tambro::Icons::AllPairs)
+            names << QLatin1String(pair.big) << QLatin1String(pair.small);
+        for (const QString &name : std::as_const(names))
+            QVERIFY2(!TAMBRO_Global::getIcon(name).isNull(), qPrintable(name));
     }
 };
 

@@ -14,14 +14,9 @@ private Q_SLOTS:
     void initTestCase()
     {
         TestPhone::startJournal();
-        TestPhone::setDevice("[mime]\n"
-                             "mp3 = audio/mpeg\n"
-                             "jpg = image/jpeg\n"
-                             "3gp = video/3gpp\n"
-                             "odd = \"  audio/x-odd\"\n" // as a registry may hold it
-                             "xau = x-audio/basic\n"
-                             "wav = AUDIO/wav\n"
-                             "mid = audio/midi\n");
+        // A type with leading blanks, quoted, as a registry may hold it.
+        TestPhone::setDevice("[mime]\nmp3 = audio/mpeg\njpg = image/jpeg\n3gp = video/3gpp\n"
+                             "odd = \"  audio/x-odd\"\nxau = x-audio/basic\nwav = AUDIO/wav\nmid = audio/midi\n");
     }
 
     void fixedLists_data()

@@ -3,10 +3,7 @@
 #include "folder_reader.h"
 #include "text_table.h"
 
-#include "folders/folder_structure.h"
-#include "folders/folder_structure_file.h"
-#include "folders/preload_folders.h"
-
+#include <KIV_Paths.h>
 #include <TAMBRO_FixedFolder.h>
 #include <ZConfig.h>
 
@@ -19,8 +16,37 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
+
+// What the folder structure file says is read here as its format is
+// documented (docs/devices.md); what the library makes of it comes from the
+// library. The file's groups:
+constexpr char KeyWordGroup[] = "TAMBRO_KEYWORD";
+constexpr char PseudoKeyWordGroup[] = "TAMBRO_PSEUDO_KEYWORD";
+constexpr char RootGroup[] = "TOPLEVEL";
+// The tag that stands for the preload root in preloaded folders' names.
+constexpr char PreloadTag[] = "//ZELK_PRELOAD:";
+
+// The device's file when there is one, else the system's.
+QString structureFilePath()
+{
+    const QString name = u'/' + QLatin1String(KivPaths::FolderStructureFileName);
+    const QString deviceFile = QLatin1String(KivPaths::FileManagerDeviceFolder) + name;
+    return QFileInfo::exists(deviceFile) ? deviceFile : QLatin1String(KivPaths::FileManagerSystemFolder) + name;
+}
+
+// A folder of the file, as written (blanks kept), under the root.
+QString absoluteFolderPath(const QString &relativePath)
+{
+    return TAMBRO_FixedFolder::m_sFMRootPath + relativePath;
+}
+
+QString fromTagForm(const QString &taggedPath)
+{
+    return QLatin1String(KivPaths::PreloadRoot) + taggedPath.mid(qsizetype(strlen(PreloadTag)));
+}
 
 bool isFolder(const QString &path)
 {
@@ -48,12 +74,11 @@ struct KeyWord
 QList<KeyWord> readKeyWords(const ZConfig &structure)
 {
     QList<KeyWord> keyWords;
-    for (const auto &[group, pseudo] : {std::pair{Tambro::KeyWordGroup, false},
-                                        std::pair{Tambro::PseudoKeyWordGroup, true}}) {
+    for (const auto &[group, pseudo] : {std::pair{KeyWordGroup, false}, std::pair{PseudoKeyWordGroup, true}}) {
         QMap<QString, QString> entries;
         structure.getGroupEntriesKeyList(QLatin1String(group), entries);
         for (auto it = entries.cbegin(); it != entries.cend(); ++it) {
-            const QString path = Tambro::absoluteFolderPath(it.value());
+            const QString path = absoluteFolderPath(it.value());
             keyWords.append({it.key(), pseudo, it.value(), path, isFolder(path)});
         }
     }
@@ -82,7 +107,7 @@ QStringList namedFolders(const ZConfig &structure, const QString &group)
 // words' folders, in the order they are first named.
 QStringList preloadedFolders(const ZConfig &structure, const QList<KeyWord> &keyWords)
 {
-    QStringList pending = {QLatin1String(Tambro::RootGroup)};
+    QStringList pending = {QLatin1String(RootGroup)};
     for (const KeyWord &keyWord : keyWords)
         pending << keyWord.relativePath;
     QSet<QString> seen(pending.cbegin(), pending.cend());
@@ -141,7 +166,7 @@ QJsonArray preloadedFileObjects(const QString &folder)
 
 QJsonObject preloadedFolderObject(const QString &taggedPath)
 {
-    const QString path = Tambro::fromPreloadTagForm(taggedPath);
+    const QString path = fromTagForm(taggedPath);
     QString parentPath;
     QString parentName;
     TAMBRO_FixedFolder::getPreloadFolderParent(path, parentPath, parentName);
@@ -160,7 +185,7 @@ QJsonObject preloadedFolderObject(const QString &taggedPath)
 
 QJsonObject describeStructure()
 {
-    const QString file = Tambro::folderStructureFilePath();
+    const QString file = structureFilePath();
     const ZConfig structure(file, false);
     // Read before the library's first query creates the key words' folders.
     const QList<KeyWord> keyWords = readKeyWords(structure);

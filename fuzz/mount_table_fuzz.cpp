@@ -1,5 +1,5 @@
 // The partition table built from arbitrary mount table text, with the card
-// driver's answers taken from the input's first three bytes.
+// driver's answers taken from the input's first byte.
 #include "core/partition_builder.h"
 
 #include <UTIL_MMCSD.h>
@@ -10,35 +10,33 @@
 
 namespace {
 
-// The driver's flags, a label of up to 15 bytes, whether it reports at all
-// and whether a card is inserted, all from three bytes.
+// The card driver's flags and whether a card is inserted, from the first byte.
 class Answers : public Tambro::CardAndSimAnswers
 {
 public:
-    explicit Answers(const uint8_t *card) : m_card{card[0], card[1], card[2]} {}
+    explicit Answers(uint8_t card) : m_card(card) {}
     bool cardInfo(unsigned char *info) const override
     {
-        info[0] = m_card[0];
-        info[2] = m_card[1];
-        std::memset(info + 76, 'L', m_card[2] % 16);
-        return (m_card[2] & 0x80) == 0;
+        info[0] = m_card & 0x0F;
+        info[2] = m_card >> 4;
+        return true;
     }
     QString megaSimName() const override { return QStringLiteral("SIM"); }
-    int cardStatus() const override { return m_card[2] & 0x40 ? 1 : 0; }
+    int cardStatus() const override { return m_card & 0x80 ? 1 : 0; }
 
 private:
-    uint8_t m_card[3];
+    uint8_t m_card;
 };
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    if (size < 3)
+    if (size < 1)
         return 0;
     const QByteArray mountTable =
-        QByteArray::fromRawData(reinterpret_cast<const char *>(data + 3), qsizetype(size - 3));
-    const Tambro::PartitionTable table = Tambro::buildPartitionTable(mountTable, Answers(data));
+        QByteArray::fromRawData(reinterpret_cast<const char *>(data + 1), qsizetype(size - 1));
+    const Tambro::PartitionTable table = Tambro::buildPartitionTable(mountTable, Answers(data[0]));
     // Numbered 1, 2, 3... in device type order, every text field terminated.
     int previousType = Tambro::PhoneMemory;
     for (int number = 1; number <= table.count(); ++number) {

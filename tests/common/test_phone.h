@@ -1,5 +1,4 @@
-// The simulated phone under a running test: its mount table, its device file
-// and the journal of what the library asked the platform.
+// The simulated phone under a running test, and its journal of platform calls.
 #pragma once
 
 #include <QByteArray>

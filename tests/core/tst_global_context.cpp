@@ -1,7 +1,6 @@
 // The context's lazy start-up, the scan of the phone's mount table and the
-// process-wide handles. The library builds this state once per process, so
-// each function is a scenario run in a process of its own, on a phone whose
-// phone memory and card are mounted.
+// process-wide handles, built once per process: each function a scenario, on
+// a phone whose phone memory and card are mounted.
 #include <TAMBRO_Global.h>
 
 #include "scenarios.h"
@@ -33,7 +32,7 @@ private Q_SLOTS:
         TestPhone::setMountTable(PhoneAndCard);
     }
 
-    void instanceBuildsTheTableOnce()
+    void instanceBuildsTheTableAndTheRegistryOnce()
     {
         QVERIFY(!TAMBRO_Global::initMemFlag);
         TAMBRO_Global *first = TAMBRO_Global::instance();
@@ -41,6 +40,9 @@ private Q_SLOTS:
         QCOMPARE(TAMBRO_Global::instance(), first);
         QCOMPARE(TAMBRO_Global::getPartiActNumber(), 2);
         QCOMPARE(scansJournalled(), 1);
+        AM_MimeRegistry *registry = TAMBRO_Global::getAmMimeRegInstance(); // made, and opened, once too
+        QVERIFY(registry && TAMBRO_Global::getAmMimeRegInstance() == registry);
+        QCOMPARE(TestPhone::journalLines().count(R"({"call":"AM_MimeRegistry::init","type":0})"), 1);
     }
 
     void tableIsASnapshotUntilTheFlagIsCleared()
@@ -121,15 +123,6 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, "the mount table /etc/mtab is larger than 1048576 bytes "
                                            "and is not read: no storage is listed from it");
         QCOMPARE(TAMBRO_Global::getPartiActNumber(), 0);
-    }
-
-    void registryIsCreatedOnce()
-    {
-        TAMBRO_Global::instance();
-        AM_MimeRegistry *registry = TAMBRO_Global::getAmMimeRegInstance();
-        QVERIFY(registry);
-        QCOMPARE(TAMBRO_Global::getAmMimeRegInstance(), registry);
-        QCOMPARE(TestPhone::journalLines().count(R"({"call":"AM_MimeRegistry::init","type":0})"), 1);
     }
 
     void compareStringSendsByteSwappedUnits()

@@ -1,6 +1,5 @@
-// The partition table: built from mount table text and the card driver's
-// answers, then asked through the library's queries. No phone is needed: the
-// build reads no file, and the table is put in place as a scan would.
+// The partition table built from mount table text and the card driver's
+// answers, put in place as a scan would, and asked through the queries.
 #include <TAMBRO_Global.h>
 
 #include "core/megasim_name.h"
@@ -92,8 +91,6 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("expected");
         const auto card = [](const char *from, const char *to) { return QString(Card).replace(from, to); };
 
-        QTest::newRow("card listed first is still numbered after the phone")
-            << CardLine + PhoneLine << Driver() << QStringList{Phone, Card};
         QTest::newRow("MegaSIM sorts between phone and card")
             << CardLine + MegaSimLine + PhoneLine << Driver() << QStringList{Phone, MegaSim, Card};
         QTest::newRow("second phone record ignored")
@@ -210,7 +207,6 @@ private Q_SLOTS:
         QTest::newRow("name from the tree") << QByteArray("name = Travel ✓") << "Travel ✓" << 3;
         QTest::newRow("empty name keeps the default") << QByteArray("name =") << "MegaSIM" << 3;
         QTest::newRow("tree fails to start") << QByteArray("initialize = 0\nname = X") << "MegaSIM" << 2;
-        QTest::newRow("value unreadable") << QByteArray("value = 0\nname = X") << "MegaSIM" << 3;
     }
 
     void megaSimName()

@@ -1,7 +1,6 @@
-// Reading the folder structure file and making the fixed folders. Each
-// scenario runs in a process of its own, because the library reads the file
-// and makes the folders only once per process: by default on a phone whose
-// preload root and system folder both hold a structure file.
+// Reading the folder structure file and making the fixed folders, once per
+// process: by default on a phone whose preload root and system folder both
+// hold a structure file.
 #include <TAMBRO_FixedFolder.h>
 
 #include "scenarios.h"

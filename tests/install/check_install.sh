@@ -19,8 +19,8 @@ fi
 cmake --install "$build_dir" --component simulator --prefix "$prefix" >/dev/null
 libdir=$(ls -d "$prefix"/lib*/ | head -n 1)
 
-cmake -S "$source_dir/tests/install/consumer" -B "$work/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
-cmake --build "$work/cmake" >/dev/null
+cmake -S "$source_dir/tests/install/consumer" -B "$work/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >/dev/null &&
+    cmake --build "$work/cmake" >/dev/null
 c++ -std=c++17 -fPIC "$source_dir/tests/install/consumer/main.cpp" -o "$work/pkgconfig-consumer" \
     $(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --cflags --libs kivtambro-base Qt6Gui) -Wl,-rpath,"$libdir"
 

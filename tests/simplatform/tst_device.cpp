@@ -25,9 +25,6 @@ Q_DECLARE_METATYPE(Change)
 
 namespace {
 
-// The device file as a writer that never closes it holds it, up to the end of a test.
-QFile keptOpen;
-
 QByteArray cardBlock(quint8 byte0, quint8 byte2, const QByteArray &label)
 {
     QByteArray block(UTIL_MMCSD_INFO_SIZE, '\0');
@@ -45,7 +42,6 @@ class TestDevice : public QObject
 private Q_SLOTS:
     void cleanup()
     {
-        keptOpen.close();
         if (QFileInfo(m_device.path()).isSymLink())
             QVERIFY(m_device.remove());
         qputenv("KIVSIM_DEVICE", QFile::encodeName(m_device.path()));
@@ -66,7 +62,6 @@ private Q_SLOTS:
             << QByteArray("[card]\ninfo=0\nbyte0=1") << 0 << QByteArray() << 0;
         QTest::newRow("byte out of range keeps its default")
             << QByteArray("[card]\nbyte2=256") << 1 << cardBlock(0, 4, "") << 2;
-        QTest::newRow("unknown key is reported") << QByteArray("[card]\nstauts=1") << 1 << cardBlock(0, 4, "") << 2;
     }
 
     void card()
@@ -105,17 +100,6 @@ private Q_SLOTS:
             << Change([](TestDeviceFile &device, const QByteArray &content) { return device.write(content); });
         QTest::newRow("replaced by rename")
             << Change([](TestDeviceFile &device, const QByteArray &content) { return device.replace(content); });
-        QTest::newRow("written through a file kept open")
-            << Change([](TestDeviceFile &device, const QByteArray &content) {
-                   static int writes = 0;
-                   keptOpen.setFileName(device.path());
-                   if (!keptOpen.isOpen() && !keptOpen.open(QIODevice::WriteOnly))
-                       return false;
-                   // A new size each time: the clock may not tick between two writes.
-                   const QByteArray padded = content + QByteArray(++writes, '\n');
-                   return keptOpen.resize(0) && keptOpen.seek(0) && keptOpen.write(padded) == padded.size()
-                       && keptOpen.flush();
-               });
         QTest::newRow("folder removed, then made again")
             << Change([](TestDeviceFile &device, const QByteArray &content) {
                    const QString folder = device.dir().path();

@@ -22,11 +22,6 @@ void PartitionInfo::setDeviceName(const QByteArray &name) { copyField(deviceName
 void PartitionInfo::setMountDir(const QByteArray &dir) { copyField(mountDir, dir); }
 void PartitionInfo::setLabel(const QByteArray &text) { copyField(label, text); }
 
-void PartitionTable::clear()
-{
-    m_entries.clear();
-}
-
 void PartitionTable::insert(const PartitionInfo &entry)
 {
     const auto at = std::find_if(m_entries.begin(), m_entries.end(), [&](const PartitionInfo &e) {

@@ -37,7 +37,6 @@ struct PartitionInfo
 class PartitionTable
 {
 public:
-    void clear();
     // Inserts before the first entry of the same or a greater device type,
     // so entries of one type end in reverse order of discovery.
     void insert(const PartitionInfo &entry);

@@ -25,8 +25,7 @@ void TAMBRO_FixedFolder::initialize()
     if (initialized)
         return;
     initialized = true;
-    if (!configuration)
-        configuration = new ZConfig(Tambro::folderStructureFilePath(), false);
+    configuration = new ZConfig(Tambro::folderStructureFilePath(), false);
 
     QMap<QString, QString> keyWords;
     configuration->getGroupEntriesKeyList(QLatin1String(Tambro::KeyWordGroup), keyWords);

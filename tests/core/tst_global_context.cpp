@@ -62,6 +62,7 @@ private Q_SLOTS:
         QVERIFY(!TAMBRO_Global::writeProtected(1) && !TAMBRO_Global::isInvalidParti(2));
         QCOMPARE(TAMBRO_Global::getPartiDevName(1), QString(""));
         QCOMPARE(TAMBRO_Global::getPhoneNoi(), -1);
+        QCOMPARE(TAMBRO_Global::getDeviceName(), QStringLiteral("/kivlocal/download/tambro")); // the root
         // Looked up before anything is built, so there is no path yet...
         QVERIFY(TAMBRO_Global::getMountedPath(2).isNull());
         QVERIFY(TestPhone::journalLines().isEmpty());

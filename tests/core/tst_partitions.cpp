@@ -4,6 +4,7 @@
 
 #include "core/megasim_name.h"
 #include "core/partition_builder.h"
+#include "core/translation.h"
 #include "devicefile.h"
 #include "test_phone.h"
 
@@ -144,6 +145,8 @@ private Q_SLOTS:
         info.setDisplayName(QString(126, u'n') + QStringLiteral("é")); // cut inside "é", by bytes
         QCOMPARE(QByteArray(info.mountDir), QByteArray(31, 'm'));
         QCOMPARE(QByteArray(info.displayName), QByteArray(126, 'n') + "\xC3");
+        // A text that no catalogue has is shown in English.
+        QCOMPARE(Tambro::translate("TAMBRO_Global", "TXT_RID_NONE", "Fallback"), QStringLiteral("Fallback"));
     }
 
     void partitionCeiling()
@@ -207,6 +210,8 @@ private Q_SLOTS:
         QTest::newRow("name from the tree") << QByteArray("name = Travel ✓") << "Travel ✓" << 3;
         QTest::newRow("empty name keeps the default") << QByteArray("name =") << "MegaSIM" << 3;
         QTest::newRow("tree fails to start") << QByteArray("initialize = 0\nname = X") << "MegaSIM" << 2;
+        QTest::newRow("subtree error") << QByteArray("subtree = 5\nname = X") << "MegaSIM" << 3;
+        QTest::newRow("node not found") << QByteArray("node = 0\nname = X") << "MegaSIM" << 3;
     }
 
     void megaSimName()

@@ -95,6 +95,7 @@ private Q_SLOTS:
         const QString tones = QStringLiteral("/usr/data_resource/tones/");
         QTest::newRow("translated, with extension") << tones + "Beep.mid" << true << true << "Piep.mid";
         QTest::newRow("only the last dot ends the base") << tones + "Beep.v2.mid" << true << true << "Beep.v2.mid";
+        QTest::newRow("no extension, nothing appended") << tones + "README" << true << true << "README";
         QTest::newRow("dot file is all extension") << tones + ".hidden" << true << true << ".hidden";
         QTest::newRow("dot file without extension") << tones + ".hidden" << false << true << "";
         QTest::newRow("Cyrillic name read as UTF-8") << tones + "Мелодия.mid" << true << true << "Мелодия.mid";

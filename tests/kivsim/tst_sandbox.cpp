@@ -27,11 +27,6 @@ qsizetype indexOf(const QStringList &arguments, const QStringList &option)
     return -1;
 }
 
-bool contains(const QStringList &arguments, const QStringList &option)
-{
-    return indexOf(arguments, option) >= 0;
-}
-
 } // namespace
 
 class TestSandbox : public QObject
@@ -105,8 +100,8 @@ private Q_SLOTS:
         const qsizetype parent = indexOf(arguments, {"--bind-try", "/tmp/build", "/tmp/build"});
         QVERIFY(parent >= 0 && indexOf(arguments, {"--bind-try", "/tmp/build/journal", "/tmp/build/journal"}) > parent);
         QVERIFY(!arguments.contains(QStringLiteral("/work/visible"))); // visible through the host anyway
-        QVERIFY(contains(arguments, {"--ro-bind-try", "/tmp/work", "/tmp/work"}));
-        QVERIFY(contains(arguments, {"--chdir", "/tmp/work"}));
+        QVERIFY(0 <= indexOf(arguments, {"--ro-bind-try", "/tmp/work", "/tmp/work"}));
+        QVERIFY(0 <= indexOf(arguments, {"--chdir", "/tmp/work"}));
         QVERIFY(indexOf(arguments, {"--remount-ro", "/"}) > parent);
         QCOMPARE(arguments.mid(arguments.size() - program.size() - 1), QStringList{"kivsim"} + program);
     }

@@ -44,7 +44,6 @@ private Q_SLOTS:
     {
         if (QFileInfo(m_device.path()).isSymLink())
             QVERIFY(m_device.remove());
-        qputenv("KIVSIM_DEVICE", QFile::encodeName(m_device.path()));
     }
 
     void card_data()
@@ -115,12 +114,6 @@ private Q_SLOTS:
                        return false;
                    return device.writeTo(target, content);
                });
-        QTest::newRow("another file named") << Change([](TestDeviceFile &device, const QByteArray &content) {
-            static int files = 0;
-            const QString other = device.dir().filePath(QStringLiteral("other%1.ini").arg(++files));
-            qputenv("KIVSIM_DEVICE", QFile::encodeName(other));
-            return device.writeTo(other, content);
-        });
         // A removed folder still held open (a shell's working folder, say)
         // tells its watch nothing until let go.
         QTest::newRow("folder made again while the old one is held")

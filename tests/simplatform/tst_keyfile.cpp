@@ -125,6 +125,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("warning"); // empty: none
 
         QTest::newRow("missing file: nothing to say") << "missing.ini" << "";
+        QTest::newRow("folder") << "." << "is a folder";
         // Opening a FIFO for reading would wait for a writer for ever.
         QTest::newRow("FIFO is not opened") << "fifo" << "is a FIFO";
         QTest::newRow("over the size limit: refused whole") << "large.ini" << "is larger than";

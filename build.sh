@@ -118,8 +118,9 @@ test)
 coverage)
     packages="$packages gcovr"
     install_missing_packages
+    # From nothing: counters of objects that are no longer built would be merged in.
+    rm -rf build-coverage
     build build-coverage -DCMAKE_BUILD_TYPE=Debug -DKIVTAMBRO_COVERAGE=ON
-    find build-coverage -name '*.gcda' -delete
     run_tests build-coverage
     coverage_report
     ;;

@@ -88,6 +88,20 @@ public:
     // process; a null picture when the platform has none.
     static QPixmap getIcon(const QString &iconName);
 
+    // --- Settings file and feature switches ---------------------------------
+
+    // The file manager's settings file, "setup/kiv_tambro.cfg" under
+    // KIV_APP_WRITE_PATH, read afresh on every call; its folder is made
+    // (mode 0777) when missing and the file's mode is set to 0777.
+    static QString getConfigFile();
+    // Whether the phone offers a service, asked of its feature table once
+    // per process: blog posting by MMS (bit 149), the blog centre (514),
+    // e-mail (205) and postcards (212). False when the table cannot answer.
+    static bool getMMSBlogFlexFlag();
+    static bool getBlogCenterFlexFlag();
+    static bool getEmailFlexFlag();
+    static bool getPostcardFlexFlag();
+
 private:
     TAMBRO_Global() = default;
 };

@@ -19,4 +19,33 @@
         <translation>MegaSIM</translation>
     </message>
 </context>
+<context>
+    <name>QObject</name>
+    <!-- Notices of opening files: resource id, English text as comment. -->
+    <message>
+        <source>TXT_RID_HEADER_CANNOT_ACCESS</source>
+        <comment>Cannot Access</comment>
+        <translation>Cannot Access</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_CANNOT_ACCESS_VIA_FILE_MANAGER_OPEN_CALENDAR</source>
+        <comment>This file can not be accessed via File Manager, please open the Calendar application to view this file.</comment>
+        <translation>This file can not be accessed via File Manager, please open the Calendar application to view this file.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_CANNOT_ACCESS_VIA_FILE_MANAGER_OPEN_CONTACTS</source>
+        <comment>This file can not be accessed via File Manager, please open the Contacts application to view this file.</comment>
+        <translation>This file can not be accessed via File Manager, please open the Contacts application to view this file.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_INSTALLATION_FAILED</source>
+        <comment>Installation Failed</comment>
+        <translation>Installation Failed</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_APPLICATION_CANNOT_BE_INSTALLED_BECAUSE_ONE_OR_MORE_OF_THE_REQUIRED_FILES_ARE_MISSING</source>
+        <comment>This application cannot be installed because one or more of the required files are missing.</comment>
+        <translation>This application cannot be installed because one or more of the required files are missing.</translation>
+    </message>
+</context>
 </TS>

@@ -146,6 +146,7 @@ public:
 
     void readFixed(const KeyFile::Section &section, DeviceState &state);
     void readFlexBits(const KeyFile::Section &section, DeviceState &state);
+    void readServices(const KeyFile::Section &section, DeviceState &state);
     // [mime] and [handlers]: free keys; values are trimmed or quoted, and an
     // empty one lists nothing.
     KeyFile::Section readMap(const KeyFile::Section &section);
@@ -190,6 +191,28 @@ void StateReader::readFlexBits(const KeyFile::Section &section, DeviceState &sta
     }
 }
 
+// The operations of the services library whose answer a device may set.
+const QStringList serviceOperations = {
+    "J2ME_JAID_ViewJad", "JAVA_Install", "JAVA_Uninstall", "QT_Install", "MP_Preview", "ME_Preview",
+    "GLINT_Preview", "Browser_EditBookmark", "BlueTooth_ShareFiles", "Browser_AddBookmark",
+    "UpdateBookmarkTitle", "Email_ShareFiles", "Theme_ApplytoFile", "SDMgr_ApplytoFile",
+    "QuickSend_GetContact", "QuickSend_SendMessage", "PRTCTR_GetPrintMethods", "PRTCTR_IsIndexSupported",
+    "PRTCTR_Print"};
+
+void StateReader::readServices(const KeyFile::Section &section, DeviceState &state)
+{
+    for (const KeyFile::Entry &entry : section.entries) {
+        int answer = 0;
+        const QString error = serviceOperations.contains(entry.key)
+            ? readInt(entry.value, answer)
+            : QStringLiteral("no operation of the services library; ignored");
+        if (error.isEmpty())
+            state.services.insert(entry.key, answer);
+        else
+            warn(section, entry, error);
+    }
+}
+
 KeyFile::Section StateReader::readMap(const KeyFile::Section &section)
 {
     KeyFile::Section result{section.name, section.line, {}};
@@ -227,6 +250,8 @@ DeviceState deviceStateFrom(const KeyFile &file, const QString &path, QStringLis
     for (const KeyFile::Section &section : file.sections()) {
         if (isFixedSection(section.name))
             reader.readFixed(section, state);
+        else if (section.name == QLatin1String("services"))
+            reader.readServices(section, state);
         else if (section.name == QLatin1String("flex"))
             reader.readFlexBits(section, state);
         else if (section.name == QLatin1String("mime"))

@@ -12,6 +12,7 @@
 // value has its default.
 #pragma once
 
+#include "kivsim_export.h"
 #include "mime_lookup.h"
 
 #include <QByteArray>
@@ -45,6 +46,7 @@ struct DeviceState
     CardState card;
     MegaSimState megaSim;
     QHash<quint16, bool> flexBits; // the listed bits of the feature table
+    QHash<QString, int> services; // [services]: what the services library's operations answer
     bool systemMimeDatabase = false; // unknown extensions go to the system's database
     // [mime] and [handlers], with the answers given so far.
     std::shared_ptr<const MimeLookup> mime = std::make_shared<const MimeLookup>();
@@ -53,6 +55,6 @@ struct DeviceState
 
 // The phone as the device file describes it now. The state returned stays valid
 // and unchanged for its holder even if the file changes meanwhile.
-std::shared_ptr<const DeviceState> device();
+KIVSIM_EXPORT std::shared_ptr<const DeviceState> device();
 
 } // namespace KivSim

@@ -4,17 +4,19 @@
 // one per line, written at once so that another process can follow it.
 #pragma once
 
+#include "kivsim_export.h"
+
 #include <QByteArray>
 #include <QJsonValue>
 
 namespace KivSim::Journal {
 
 // Whether a journal file is named; the variable is read once per process.
-bool enabled();
+KIVSIM_EXPORT bool enabled();
 
 // One journal line: the call's name, then its arguments in the order added.
 // Build it only when enabled(), so that an unjournaled run does no work.
-class Line
+class KIVSIM_EXPORT Line
 {
 public:
     explicit Line(const char *call);

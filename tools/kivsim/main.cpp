@@ -240,6 +240,30 @@ void shareWindowSystem(BwrapCommand &command)
     command.useOwnRuntimeFolder();
 }
 
+// The folder of the phone's services library: beside an installed kivsim,
+// else where the build put it.
+QString servicesFolder()
+{
+    const QString installed = QCoreApplication::applicationDirPath()
+        + QStringLiteral("/../" KIVSIM_LIBDIR "/kivsim");
+    if (QFileInfo::exists(installed + QStringLiteral("/libkivtambro_util.so")))
+        return QDir::cleanPath(installed);
+    return QStringLiteral(KIVSIM_SERVICES_DIR);
+}
+
+// The library loads the services library by its bare name: a phone that has
+// one gets its folder on the library path.
+void provideServices(BwrapCommand &command, const SandboxSettings &settings)
+{
+    if (!settings.services)
+        return;
+    const QString folder = servicesFolder();
+    const QString inherited = qEnvironmentVariable("LD_LIBRARY_PATH");
+    command.revealHostPath(folder, BwrapCommand::Access::ReadOnly);
+    command.setEnvironment(QStringLiteral("LD_LIBRARY_PATH"),
+                           inherited.isEmpty() ? folder : folder + u':' + inherited);
+}
+
 void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
                   const QStringList &commandLine)
 {
@@ -252,9 +276,12 @@ void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
 #else
     command.revealHostPath(QStringLiteral(KIVSIM_BUILD_DIR), BwrapCommand::Access::ReadOnly);
 #endif
-    if (commandLine.constFirst().contains(u'/'))
-        command.revealHostPath(QFileInfo(commandLine.constFirst()).absolutePath(),
-                               BwrapCommand::Access::ReadOnly);
+    // The command's folder, or the command alone where its folder is the
+    // sandbox's own (a program right in /tmp).
+    const QFileInfo program(commandLine.constFirst());
+    if (commandLine.constFirst().contains(u'/')
+        && !command.revealHostPath(program.absolutePath(), BwrapCommand::Access::ReadOnly).isEmpty())
+        command.revealHostPath(program.absoluteFilePath(), BwrapCommand::Access::ReadOnly);
 }
 
 } // namespace
@@ -287,6 +314,7 @@ int main(int argc, char *argv[])
     if (!shareJournal(command))
         return ExitCode::SetupFailed;
     shareWindowSystem(command);
+    provideServices(command, settings);
     setUpProcess(command, settings, invocation->command);
 
     const QStringList arguments = command.arguments(invocation->command);

@@ -36,6 +36,7 @@ private:
     void readSize(const KeyFile::Entry &entry, qint64 &target);
     void readWritePath(const KeyFile::Entry &entry, QString &target);
     void readFileName(const KeyFile::Entry &entry, QString &target);
+    void readFlag(const KeyFile::Entry &entry, bool &target);
     void warn(const KeyFile::Entry &entry, const QString &why);
 
     WarningLog m_log;
@@ -55,6 +56,8 @@ void SectionReader::read(const KeyFile::Entry &entry, SandboxSettings &settings)
         settings.dataPath = entry.value;
     else if (entry.key == QLatin1String("write_path"))
         readWritePath(entry, settings.writePath);
+    else if (entry.key == QLatin1String("services"))
+        readFlag(entry, settings.services);
     else
         warn(entry, QStringLiteral("unknown key; ignored"));
 }
@@ -86,6 +89,15 @@ void SectionReader::readFileName(const KeyFile::Entry &entry, QString &target)
         return;
     }
     target = cleaned;
+}
+
+void SectionReader::readFlag(const KeyFile::Entry &entry, bool &target)
+{
+    const std::optional<qint64> value = KeyFile::toNumber(entry.value);
+    if (value == 0 || value == 1)
+        target = *value == 1;
+    else
+        warn(entry, QStringLiteral("%1 is neither 0 nor 1; %2 is used").arg(KeyFile::quoted(entry.value)).arg(target));
 }
 
 void SectionReader::warn(const KeyFile::Entry &entry, const QString &why)

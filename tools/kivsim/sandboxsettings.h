@@ -21,6 +21,7 @@ struct SandboxSettings
     // the write path gets a folder; the data path normally names a storage.
     QString dataPath = QLatin1String(KivPaths::PhoneMemory);
     QString writePath = QStringLiteral("/kivlocal/appdata");
+    bool services = true; // whether the phone has the services library
 
     // Values that cannot be used keep their defaults; each is reported in
     // warnings as "origin:line: message".

@@ -121,7 +121,7 @@ private Q_SLOTS:
         QTest::newRow("no command") << QStringList() << 2 << "no command given";
         QTest::newRow("unknown command") << QStringList{"format"} << 2 << "unknown command 'format'";
         QTest::newRow("extra argument") << QStringList{"storage", "now"} << 2 << "unexpected argument 'now'";
-        QTest::newRow("png for a command that does not draw") << QStringList{"storage", "--png", "x"} << 2 << "--png is for ls";
+        QTest::newRow("png for a command that does not draw") << QStringList{"storage", "--png", "x"} << 2 << "does not take --png";
         QTest::newRow("empty folder name") << QStringList{"ls", ""} << 2 << "empty argument";
         // Qt's own options are no options of tambro's, and never eat a name.
         QTest::newRow("Qt option") << QStringList{"type", "-qwindowtitle", "a.mp3"} << 2 << "Unknown options";

@@ -1,13 +1,14 @@
 // tambro: asks the file manager's base library about the phone it runs on.
 #include "folders_command.h"
 #include "ls_command.h"
+#include "open_command.h"
 #include "output.h"
 #include "request.h"
 #include "storage_command.h"
 #include "type_command.h"
 
 #include <QCommandLineParser>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTextStream>
 
 #include <climits>
@@ -27,10 +28,17 @@ const char Usage[] = "Usage: tambro COMMAND [OPTIONS] [ARGUMENTS]\n"
                      "  type NAME...     each name's file types and its big and small icons\n"
                      "  ls [FOLDER]      a folder as the file manager lists it: folders first,\n"
                      "                   then files, each with its icons (default: the root)\n"
+                     "  open FILE...     opens each file as the file manager does and shows the\n"
+                     "                   requests that reached the phone's applications\n"
+                     "  settings         the settings file, its sort order and the feature switches\n"
                      "\n"
                      "Options:\n"
                      "  --json           print JSON instead of a table\n"
                      "  --png FILE       ls: draw the listing as the phone shows it into FILE\n"
+                     "  --type TYPE      open: the type the file is opened as (default: its\n"
+                     "                   extension in lower case)\n"
+                     "  --normal         open: pictures in the viewer's normal view, not its preview\n"
+                     "  --install-arg N  open: the number handed to the Java installer (default 0)\n"
                      "  -h, --help       print this help\n";
 
 // Without a display the tool still needs an application object for pixmaps
@@ -47,15 +55,18 @@ struct Command
     int (*run)(QTextStream &out, const Request &request);
     int minArguments;
     int maxArguments;
-    bool draws; // takes --png
+    QStringList options; // the command's own options
 };
 
 const std::map<QString, Command> Commands = {
-    {QStringLiteral("storage"), {runStorageCommand, 0, 0, false}},
-    {QStringLiteral("folders"), {runFoldersCommand, 0, 0, false}},
-    {QStringLiteral("type"), {runTypeCommand, 1, INT_MAX, false}},
-    {QStringLiteral("ls"), {runLsCommand, 0, 1, true}},
+    {QStringLiteral("storage"), {runStorageCommand, 0, 0, {}}},
+    {QStringLiteral("folders"), {runFoldersCommand, 0, 0, {}}},
+    {QStringLiteral("type"), {runTypeCommand, 1, INT_MAX, {}}},
+    {QStringLiteral("ls"), {runLsCommand, 0, 1, {"png"}}},
+    {QStringLiteral("open"), {runOpenCommand, 1, INT_MAX, {"type", "normal", "install-arg"}}},
+    {QStringLiteral("settings"), {runSettingsCommand, 0, 0, {}}},
 };
+const QStringList CommandOptions = {"png", "type", "normal", "install-arg"};
 
 int usageError(const QString &why)
 {
@@ -65,8 +76,13 @@ int usageError(const QString &why)
 }
 
 // Why the request does not fit the command; empty when it does.
-QString misuse(const QString &name, const Command &command, const Request &request)
+QString misuse(const QString &name, const Command &command, const Request &request,
+               const QStringList &optionsGiven)
 {
+    for (const QString &option : optionsGiven) {
+        if (CommandOptions.contains(option) && !command.options.contains(option))
+            return QStringLiteral("'%1' does not take --%2").arg(name, option);
+    }
     const int count = int(request.arguments.size());
     if (count > command.maxArguments)
         return QStringLiteral("unexpected argument '%1'").arg(request.arguments.at(command.maxArguments));
@@ -74,8 +90,6 @@ QString misuse(const QString &name, const Command &command, const Request &reque
         return QStringLiteral("'%1' needs an argument").arg(name);
     if (request.arguments.contains(QString()))
         return QStringLiteral("an empty argument names nothing");
-    if (!request.png.isNull() && !command.draws)
-        return QStringLiteral("'%1' does not draw: --png is for ls").arg(name);
     if (!request.png.isNull() && request.json)
         return QStringLiteral("--png and --json do not go together");
     return QString();
@@ -97,10 +111,11 @@ int run(const QStringList &arguments, QTextStream &out)
     QCommandLineParser parser;
     const QCommandLineOption json(QStringLiteral("json"));
     const QCommandLineOption png(QStringLiteral("png"), QString(), QStringLiteral("FILE"));
+    const QCommandLineOption type(QStringLiteral("type"), QString(), QStringLiteral("TYPE"));
+    const QCommandLineOption normal(QStringLiteral("normal"));
+    const QCommandLineOption installArgument(QStringLiteral("install-arg"), QString(), QStringLiteral("N"));
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
-    parser.addOption(json);
-    parser.addOption(png);
-    parser.addOption(help);
+    parser.addOptions({json, png, type, normal, installArgument, help});
     if (!parser.parse(arguments))
         return usageError(parser.errorText());
 
@@ -116,9 +131,17 @@ int run(const QStringList &arguments, QTextStream &out)
         return usageError(QStringLiteral("unknown command '%1'").arg(words.first()));
     if (parser.isSet(png) && parser.value(png).isEmpty())
         return usageError(QStringLiteral("--png needs a file name"));
-    const Request request{words.mid(1), parser.isSet(json),
-                          parser.isSet(png) ? parser.value(png) : QString()};
-    const QString why = misuse(command->first, command->second, request);
+    bool isNumber = true;
+    const int installNumber = parser.isSet(installArgument) ? parser.value(installArgument).toInt(&isNumber) : 0;
+    if (!isNumber)
+        return usageError(QStringLiteral("--install-arg needs a number"));
+    const Request request{words.mid(1),
+                          parser.isSet(json),
+                          parser.isSet(png) ? parser.value(png) : QString(),
+                          parser.isSet(type) ? parser.value(type) : QString(),
+                          parser.isSet(normal),
+                          installNumber};
+    const QString why = misuse(command->first, command->second, request, parser.optionNames());
     if (!why.isEmpty())
         return usageError(why);
     return command->second.run(out, request);
@@ -131,7 +154,8 @@ int main(int argc, char *argv[])
     const QStringList arguments = userArguments(argc, argv);
     chooseOffscreenWithoutDisplay();
     int qtArgc = 1;
-    QGuiApplication app(qtArgc, argv);
+    // Widgets: opening a file may show a notice.
+    QApplication app(qtArgc, argv);
 
     QTextStream out(stdout);
     const int status = run(arguments, out);

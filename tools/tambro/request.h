@@ -12,6 +12,9 @@ struct Request
     QStringList arguments; // after the command word
     bool json = false;
     QString png; // --png FILE, where the command draws
+    QString type; // --type TYPE of open: the caller's type string; null for the extension
+    bool normal = false; // --normal of open: the image viewer's normal view
+    int installArgument = 0; // --install-arg N of open
 };
 
 // A name's bytes, for names that are not UTF-8 and so cannot be given whole

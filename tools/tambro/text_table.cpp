@@ -53,7 +53,10 @@ void TextTable::addRow(const QStringList &cells)
 {
     QStringList shown;
     for (const QString &cell : cells)
-        shown << fitted(escapedForTerminal(cell));
+        shown << escapedForTerminal(cell);
+    // The last column pads nothing after it: only the others are cut to fit.
+    for (qsizetype column = 0; column + 1 < shown.size(); ++column)
+        shown[column] = fitted(shown[column]);
     m_rows.append(shown);
 }
 
@@ -69,7 +72,10 @@ QString TextTable::toString() const
         QStringList padded;
         for (qsizetype column = 0; column < widths.size(); ++column)
             padded.append(row.value(column).leftJustified(widths[column]));
-        text += padded.join(QStringLiteral("  ")).trimmed() + QLatin1Char('\n');
+        QString line = padded.join(QStringLiteral("  "));
+        while (line.endsWith(u' '))
+            line.chop(1);
+        text += line + QLatin1Char('\n');
     }
     return text;
 }

@@ -1,6 +1,7 @@
 // A plain-text table whose columns are padded to their widest cell, up to a
 // cap: a longer cell is cut in its middle, so that one long path cannot
-// widen every row of a large table. Control characters are shown escaped.
+// widen every row of a large table; the last column, which pads nothing, is
+// shown whole. Control characters are shown escaped.
 // Scripts that need every character read the commands' --json instead.
 #pragma once
 

@@ -22,29 +22,44 @@ bool hasRealWindowSystem()
     return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
 }
 
-// The notice's icon beside its text, and an OK button.
+// The phone's screen, which a notice never outgrows.
+constexpr QSize PhoneScreen(240, 320);
+
+// The title icon beside the title, the text below, and an OK button: the
+// title stands in the dialog too, as a phone without title bars shows it.
 void buildContents(QDialog *dialog, const QPixmap &titleIcon, const QString &title,
                    const QString &text)
 {
     dialog->setWindowTitle(title);
-    auto *message = new QHBoxLayout;
+    auto *heading = new QHBoxLayout;
     if (!titleIcon.isNull()) {
         dialog->setWindowIcon(QIcon(titleIcon));
         auto *icon = new QLabel(dialog);
         icon->setPixmap(titleIcon);
-        icon->setAlignment(Qt::AlignTop);
-        message->addWidget(icon);
+        heading->addWidget(icon);
     }
+    auto *titleLabel = new QLabel(title, dialog);
+    QFont bold = titleLabel->font();
+    bold.setBold(true);
+    titleLabel->setFont(bold);
+    heading->addWidget(titleLabel, 1);
+
     auto *label = new QLabel(text, dialog);
     label->setWordWrap(true);
-    message->addWidget(label, 1);
-
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, dialog);
     QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
 
     auto *layout = new QVBoxLayout(dialog);
-    layout->addLayout(message);
+    layout->addLayout(heading);
+    layout->addWidget(label, 1);
     layout->addWidget(buttons);
+    // A top-level window does not ask its layout for the wrapped text's
+    // height at a given width: the text is measured at the phone's width.
+    const QMargins margins = layout->contentsMargins();
+    label->setMinimumHeight(label->heightForWidth(PhoneScreen.width() - margins.left() - margins.right()));
+    dialog->setFixedWidth(PhoneScreen.width());
+    dialog->setMaximumHeight(PhoneScreen.height());
+    dialog->adjustSize();
 }
 
 } // namespace

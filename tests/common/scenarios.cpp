@@ -1,7 +1,6 @@
 #include "scenarios.h"
 
-#include <QCoreApplication>
-#include <QMetaMethod>
+#include <QApplication>
 #include <QProcess>
 #include <QTest>
 
@@ -9,20 +8,20 @@ namespace Scenarios {
 
 namespace {
 
-// The test functions: private slots without arguments, fixtures and data functions aside.
-QStringList scenariosOf(const QObject &test)
+// Every test function, and every row of a data-driven one, as QTest names
+// them: "function" or "function:row". QTest lists them itself.
+QStringList scenariosOf(const QString &program)
 {
-    static const QStringList fixtures = {"initTestCase", "cleanupTestCase", "init", "cleanup"};
-    QStringList names;
-    const QMetaObject *meta = test.metaObject();
-    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
-        const QMetaMethod method = meta->method(i);
-        const QString name = QString::fromLatin1(method.name());
-        if (method.methodType() == QMetaMethod::Slot && method.access() == QMetaMethod::Private
-            && method.parameterCount() == 0 && !fixtures.contains(name) && !name.endsWith("_data"))
-            names << name;
+    QProcess list;
+    list.start(program, {"-datatags"});
+    list.waitForFinished(-1);
+    QStringList scenarios;
+    for (const QString &line : QString::fromUtf8(list.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts)) {
+        const QString functionAndRow = line.section(u' ', 1); // after the class name
+        const qsizetype space = functionAndRow.indexOf(u' ');
+        scenarios << (space < 0 ? functionAndRow : functionAndRow.left(space) + u':' + functionAndRow.mid(space + 1));
     }
-    return names;
+    return scenarios;
 }
 
 // kivsim --device DEVICE -- env [-u NAME] [NAME=value] PROGRAM SCENARIO
@@ -41,20 +40,27 @@ bool runOnItsPhone(const QString &program, const QString &scenario, const Setup 
 
 int run(QObject &test, int argc, char **argv, const QHash<QString, Setup> &setups, const QString &defaultDevice)
 {
-    QCoreApplication app(argc, argv);
+    // Widgets, offscreen: a scenario may show a notice.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
     if (argc > 1)
         return QTest::qExec(&test, argc, argv);
-    const QStringList scenarios = scenariosOf(test);
+    const QString program = QCoreApplication::applicationFilePath();
+    const QStringList scenarios = scenariosOf(program);
+    QStringList functions;
+    for (const QString &scenario : scenarios)
+        functions << scenario.section(u':', 0, 0);
     for (auto it = setups.cbegin(); it != setups.cend(); ++it) {
-        if (!scenarios.contains(it.key()))
-            qFatal("a setup names no scenario: %s", qPrintable(it.key()));
+        if (!functions.contains(it.key()) && !scenarios.contains(it.key()))
+            qFatal("a setup names no test function or row: %s", qPrintable(it.key()));
     }
     QStringList failed;
     for (const QString &scenario : scenarios) {
-        Setup setup = setups.value(scenario);
+        Setup setup = setups.value(scenario, setups.value(scenario.section(u':', 0, 0)));
         if (setup.device.isEmpty())
             setup.device = defaultDevice;
-        if (!runOnItsPhone(QCoreApplication::applicationFilePath(), scenario, setup))
+        if (!runOnItsPhone(program, scenario, setup))
             failed << scenario;
     }
     if (!failed.isEmpty())

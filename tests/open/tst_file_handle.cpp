@@ -1,0 +1,157 @@
+// Opening files on the sample phone, seen through the journal: every row of
+// the handler's dispatch, each in a process of its own (the launch guard is
+// the process's), and the guard itself.
+#include <TAMBRO_FileHandle.h>
+#include <TAMBRO_Global.h>
+
+#include "scenarios.h"
+#include "test_phone.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+const QString Phone = QStringLiteral("/kivlocal/download/tambro/");
+
+QStringList open(const QString &file, const QString &type, bool preview = true)
+{
+    TestPhone::clearJournal();
+    const int result = TAMBRO_FileHandle(Phone + file, type, Phone + file.section(u'/', 0, 0), nullptr, 7, preview).Handle();
+    QStringList requests;
+    for (const QByteArray &line : TestPhone::journalLines())
+        requests << QString::fromUtf8(line);
+    // The feature bit of native packages is asked first, on every call.
+    if (requests.value(0) != QLatin1String(R"({"call":"SETUP_Utility::getFlexBit","bit":162})"))
+        return {QStringLiteral("no feature bit first")};
+    return requests.mid(1) << QString::number(result);
+}
+
+QString invoke(const QString &action, const QString &values)
+{
+    return QStringLiteral(R"({"call":"AM_ActionData::invoke","action":"%1","values":[%2]})").arg(action, values);
+}
+
+QString media(const QString &file, const QString &type)
+{
+    return invoke("MediaPlayerLauncher", QStringLiteral(R"(["mode","playback"],["uri","file://%1"],["mediaType","%2"],["callerName","FileManager"])")
+                                              .arg(Phone + file, type));
+}
+
+QString document(const QString &file)
+{
+    return QStringLiteral(R"({"call":"AM_LauncherClient::openDocument","path":"%1"})").arg(Phone + file);
+}
+
+QString notice(const char *icon, const QString &title, const QString &text)
+{
+    return QStringLiteral(R"({"call":"RES_ICON_Reader::getIcon","name":"%1"})").arg(QLatin1String(icon)) + u'\n'
+        + QStringLiteral(R"({"call":"ZPopup::exec","title":"%1","text":"%2","type":2})").arg(title, text);
+}
+
+} // namespace
+
+class TestFileHandle : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        TestPhone::startJournal();
+        QFile settings(TAMBRO_Global::getConfigFile());
+        QVERIFY(settings.open(QIODevice::WriteOnly) && settings.write("[sortType]\ntambro = 3\n"));
+    }
+
+    void dispatch_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<bool>("preview");
+        QTest::addColumn<QByteArray>("device"); // replaces the sample's when given
+        QTest::addColumn<QString>("requests"); // then Handle()'s result
+
+        const QString contacts = "This file can not be accessed via File Manager, please open the Contacts "
+                                 "application to view this file.";
+        QTest::newRow("package installed natively") << "applications/weather.mpkg" << "mpkg" << true << QByteArray()
+            << R"({"call":"TAMBRO_UTIL_Interface::QT_Install","packagePath":"%1applications/weather.mpkg"})""\n0";
+        QTest::newRow("package without native installs is a document") << "applications/weather.mpkg" << "mpkg"
+            << true << QByteArray("[flex]\n162=0\n") << document("applications/weather.mpkg") + "\n0";
+        QTest::newRow("bookmark's URL to the browser") << "others/bookmarks.vbm" << "vbm" << true << QByteArray()
+            << R"({"call":"TAMBRO_UTIL_Interface::Browser_GetUrl","bookmarkPath":"%1others/bookmarks.vbm"})""\n"
+               R"({"call":"AM_LauncherClient::loadURL","url":"http://www.example.com/"})""\n0";
+        QTest::newRow("type URL in upper case is no bookmark") << "others/news.url" << "URL" << true << QByteArray()
+            << document("others/news.url") + "\n0";
+        QTest::newRow("the type decides rows 1 to 3") << "others/news.url" << "mms" << true << QByteArray()
+            << invoke("OpenMMSFile", R"(["FileName","%1others/news.url"])") + "\n0";
+        QTest::newRow("contact card by the path, any case") << "documents/card.VCF" << "txt" << true << QByteArray()
+            << notice("info_pop.gif", "Cannot Access", contacts) + "\n0";
+        QTest::newRow("Java archive") << "applications/Sudoku.JAR" << "jar" << true << QByteArray()
+            << R"({"call":"TAMBRO_UTIL_Interface::JAVA_Install","path":"%1applications/Sudoku.JAR","descriptorPath":"","installArgument":7})""\n1";
+        QTest::newRow("descriptor finds its archive in another case") << "applications/Tetris.jad" << "jad" << true
+            << QByteArray()
+            << R"({"call":"TAMBRO_UTIL_Interface::J2ME_JAID_ViewJad","jadPath":"%1applications/Tetris.jad","installArgument":7})""\n"
+               R"({"call":"TAMBRO_UTIL_Interface::JAVA_Install","path":"%1applications/tetris.jar","descriptorPath":"%1applications/Tetris.jad","installArgument":7})""\n1";
+        QTest::newRow("descriptor without its archive") << "applications/Chess.jad" << "jad" << true << QByteArray()
+            << R"({"call":"TAMBRO_UTIL_Interface::J2ME_JAID_ViewJad","jadPath":"%1applications/Chess.jad","installArgument":7})""\n"
+                   + notice("error_pop.gif", "Installation Failed", "This application cannot be installed because "
+                                                                     "one or more of the required files are missing.") + "\n0";
+        QTest::newRow("picture preview") << "picture/holiday.jpg" << "jpg" << true << QByteArray()
+            << invoke("ViewImagebyName", R"(["Mode","PreviewImageOptions"],["FileName","%1picture/holiday.jpg"])") + "\n0";
+        QTest::newRow("picture in the settings' sort order") << "picture/holiday.jpg" << "jpg" << false << QByteArray()
+            << invoke("ViewImagebyName", R"(["FileName","%1picture/holiday.jpg"],["SortType",3],["TargetView","normal"])") + "\n0";
+        QTest::newRow("upper-case extension plays") << "audio/LOUD.MP3" << "mp3" << true << QByteArray()
+            << media("audio/LOUD.MP3", "AUDIO") + "\n0";
+        QTest::newRow("asf, in both lists, plays as audio") << "video/stream.asf" << "asf" << true << QByteArray()
+            << media("video/stream.asf", "AUDIO") + "\n0";
+        QTest::newRow("video") << "video/movie.3GP" << "3gp" << true << QByteArray() << media("video/movie.3GP", "VIDEO") + "\n0";
+        QTest::newRow("a fragment of a list member plays") << "audio/tone.mi" << "mi" << true << QByteArray()
+            << media("audio/tone.mi", "AUDIO") + "\n0";
+        QTest::newRow("a bare trailing dot plays as audio") << "audio/memo." << "" << true << QByteArray()
+            << media("audio/memo.", "AUDIO") + "\n0";
+        QTest::newRow("anything else is a document") << "documents/readme.txt" << "txt" << true << QByteArray()
+            << document("documents/readme.txt") + "\n0";
+    }
+
+    void dispatch()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, type);
+        QFETCH(bool, preview);
+        QFETCH(QByteArray, device);
+        QFETCH(QString, requests);
+        if (!device.isEmpty())
+            TestPhone::setDevice(device);
+        QCOMPARE(open(file, type, preview).join(u'\n'), QString(requests).replace("%1", Phone));
+    }
+
+    // No more than one media or document launch in two seconds; pictures are never held back.
+    void launchGuard()
+    {
+        QCOMPARE(open("audio/LOUD.MP3", "mp3").size(), 2);
+        QCOMPARE(open("picture/holiday.jpg", "jpg").size(), 2);
+        QCOMPARE(open("audio/LOUD.MP3", "mp3"), QStringList{"0"});
+        QTest::qSleep(2100);
+        QCOMPARE(open("documents/readme.txt", "txt").size(), 2);
+    }
+
+    // Run without the services library: the rows that need it quietly do nothing useful.
+    void missingServicesLibrary()
+    {
+        QCOMPARE(open("others/news.url", "url"), (QStringList{R"({"call":"AM_LauncherClient::loadURL","url":""})", "0"}));
+        QCOMPARE(open("applications/Chess.jad", "jad"), QStringList{"0"});
+        QCOMPARE(open("applications/Sudoku.JAR", "jar"), QStringList{"0"});
+    }
+
+    void openFileNeedsAnExistingFile()
+    {
+        TestPhone::clearJournal();
+        QCOMPARE(TAMBRO_OpenFile(Phone + "documents/missing.txt", 0), 0);
+        QVERIFY(TestPhone::journalLines().isEmpty());
+        QCOMPARE(TAMBRO_OpenFile(Phone + "applications/Chess.jad", 0), 1); // whatever became of it
+    }
+};
+
+KIVTAMBRO_SCENARIO_MAIN(TestFileHandle, {{"missingServicesLibrary", {QString(), {"-LD_LIBRARY_PATH"}}}},
+                        QStringLiteral(SAMPLE_DEVICE))
+#include "tst_file_handle.moc"

@@ -54,9 +54,7 @@ class SlotServices : public Contract
 public:
     int J2ME_JAID_ViewJad(const QString &path, QString &archive, int &number, bool &needs, int argument) override
     {
-        archive = QStringLiteral("Out.jar");
-        number = 5;
-        needs = true;
+        archive = QStringLiteral("Out.jar"), number = 5, needs = true;
         return note(1, {path, QString::number(argument)});
     }
     int JAVA_Install(const QString &a, const QString &b, int c) override { return note(2, {a, b, QString::number(c)}); }
@@ -69,25 +67,13 @@ public:
     int BlueTooth_ShareFiles(QStringList &files) override { return note(9, files); }
     int Browser_AddBookmark() override { return note(10, {}); }
     int Browser_AddBookmark(const QString &a) override { return note(11, {a}); }
-    void Browser_GetUrl(const QString &a, QString &url) override
-    {
-        url = QStringLiteral("http://out");
-        note(12, {a});
-    }
+    void Browser_GetUrl(const QString &a, QString &url) override { url = QStringLiteral("http://out"), note(12, {a}); }
     int UpdateBookmarkTitle(const QString &a) override { return note(13, {a}); }
     int Email_ShareFiles(QStringList &files) override { return note(14, files); }
     int Theme_ApplytoFile(const QString &a, int b) override { return note(15, {a, QString::number(b)}); }
     int SDMgr_ApplytoFile(const QString &a, bool b) override { return note(16, {a, text(b)}); }
-    int QuickSend_GetContact(QString &a, QString &b) override
-    {
-        a = QStringLiteral("Anna");
-        b = QStringLiteral("555");
-        return note(17, {});
-    }
-    int QuickSend_SendMessage(const QString &a, const QString &b, const QString &c, bool d) override
-    {
-        return note(18, {a, b, c, text(d)});
-    }
+    int QuickSend_GetContact(QString &a, QString &b) override { return a = "Anna", b = "555", note(17, {}); }
+    int QuickSend_SendMessage(const QString &a, const QString &b, const QString &c, bool d) override { return note(18, {a, b, c, text(d)}); }
     int PRTCTR_GetPrintMethods(int *methods) override { return note(19, {QString::number(*methods)}); }
     int PRTCTR_IsIndexSupported(int a) override { return note(20, {QString::number(a)}); }
     int PRTCTR_Print(int a, bool b, QStringList files) override { return note(21, QStringList{QString::number(a), text(b)} + files); }

@@ -1,7 +1,5 @@
-// The services library holder: every forwarding method reaches its own slot
-// of the contract with its arguments unchanged and returns the object's
-// result; without a library, a factory or an object it answers its defaults.
-// Each function runs with one variant of a test library on the library path.
+// The services library holder: each method reaches its own slot with its
+// arguments and returns the object's result, or answers its default.
 #include <TAMBRO_DYNAMIC_Interface.h>
 
 #include "scenarios.h"
@@ -66,68 +64,50 @@ class TestDynamicInterface : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void forwardsToItsSlot()
+    // Each row runs with its own library on the library path.
+    void holder_data()
     {
+        QTest::addColumn<bool>("forwards"); // else every method answers its default
+        QTest::addColumn<bool>("loaded"); // while the holder lives
+        QTest::addColumn<bool>("deleted"); // the object, through the library's delete function
+
+        QTest::newRow("complete") << true << true << true;
+        QTest::newRow("no delete function: closed all the same") << true << true << false;
+        QTest::newRow("no factory") << false << true << false;
+        QTest::newRow("null factory") << false << true << false;
+        QTest::newRow("no library") << false << false << false;
+    }
+
+    void holder()
+    {
+        QFETCH(bool, forwards);
+        QFETCH(bool, loaded);
+        QFETCH(bool, deleted);
         {
             TAMBRO_DYNAMIC_Interface services;
             void *library = loadedLibrary();
-            const auto lastCall = reinterpret_cast<const char *(*)()>(dlsym(library, "slotServicesLastCall"));
-            QVERIFY(lastCall);
+            QCOMPARE(library != nullptr, loaded);
+            const auto lastCall = reinterpret_cast<const char *(*)()>(library ? dlsym(library, "slotServicesLastCall") : nullptr);
             for (int slot = 1; slot <= int(std::size(Operations)); ++slot) {
                 const Operation &operation = Operations[slot - 1];
-                QCOMPARE(operation.call(services), 100 + slot);
-                QCOMPARE(QByteArray(lastCall()), QByteArray(operation.slotAndArguments));
+                QCOMPARE(operation.call(services), forwards ? 100 + slot : operation.fallback);
+                if (forwards)
+                    QCOMPARE(QByteArray(lastCall()), QByteArray(operation.slotAndArguments));
             }
-            dlclose(library);
-        }
-        QCOMPARE(qgetenv("SLOT_SERVICES_DELETED"), QByteArray("1"));
-        QVERIFY(!loadedLibrary()); // unloaded with the holder
-    }
-
-    // Each row runs with its own library on the library path.
-    void answersDefaultsWithoutAServiceObject_data()
-    {
-        QTest::addColumn<bool>("staysLoaded"); // while the holder lives
-        QTest::newRow("no library") << false;
-        QTest::newRow("no factory") << true;
-        QTest::newRow("null factory") << true;
-    }
-
-    void answersDefaultsWithoutAServiceObject()
-    {
-        QFETCH(bool, staysLoaded);
-        {
-            TAMBRO_DYNAMIC_Interface services;
-            for (const Operation &operation : Operations)
-                QVERIFY2(operation.call(services) == operation.fallback, operation.name);
-            void *library = loadedLibrary();
-            QCOMPARE(library != nullptr, staysLoaded);
             if (library)
                 dlclose(library);
         }
-        QVERIFY(!loadedLibrary());
-        QVERIFY(qEnvironmentVariableIsEmpty("SLOT_SERVICES_DELETED")); // no object, nothing deleted
-    }
-
-    // Without a delete function the library is closed all the same.
-    void closesWithoutADeleteFunction()
-    {
-        {
-            TAMBRO_DYNAMIC_Interface services;
-            QCOMPARE(services.QT_Install("p"), 104);
-        }
-        QVERIFY(!loadedLibrary());
+        QCOMPARE(qgetenv("SLOT_SERVICES_DELETED") == "1", deleted);
+        QVERIFY(!loadedLibrary()); // unloaded with the holder
     }
 };
 
 const QString Variants = QStringLiteral(SLOT_SERVICES_DIR);
 
 KIVTAMBRO_SCENARIO_MAIN(TestDynamicInterface,
-                        {{"forwardsToItsSlot", {QString(), {"LD_LIBRARY_PATH=" + Variants + "/complete"}}},
-                         {"closesWithoutADeleteFunction", {QString(), {"LD_LIBRARY_PATH=" + Variants + "/nodelete"}}},
-                         {"answersDefaultsWithoutAServiceObject:no library", {QString(), {"-LD_LIBRARY_PATH"}}},
-                         {"answersDefaultsWithoutAServiceObject:no factory",
-                          {QString(), {"LD_LIBRARY_PATH=" + Variants + "/nofactory"}}},
-                         {"answersDefaultsWithoutAServiceObject:null factory",
-                          {QString(), {"LD_LIBRARY_PATH=" + Variants + "/nullfactory"}}}})
+                        {{"holder:complete", {QString(), {"LD_LIBRARY_PATH=" + Variants + "/complete"}}},
+                         {"holder:no delete function: closed all the same", {QString(), {"LD_LIBRARY_PATH=" + Variants + "/nodelete"}}},
+                         {"holder:no factory", {QString(), {"LD_LIBRARY_PATH=" + Variants + "/nofactory"}}},
+                         {"holder:null factory", {QString(), {"LD_LIBRARY_PATH=" + Variants + "/nullfactory"}}},
+                         {"holder:no library", {QString(), {"-LD_LIBRARY_PATH"}}}})
 #include "tst_dynamic_interface.moc"

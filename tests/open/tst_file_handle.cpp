@@ -1,6 +1,5 @@
-// Opening files on the sample phone, seen through the journal: every row of
-// the handler's dispatch, each in a process of its own (the launch guard is
-// the process's), and the guard itself.
+// Opening files on the sample phone, seen through the journal, each row in a
+// process of its own (the launch guard is the process's).
 #include <TAMBRO_FileHandle.h>
 #include <TAMBRO_Global.h>
 
@@ -9,6 +8,8 @@
 
 #include <QFile>
 #include <QTest>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -31,22 +32,16 @@ QString invoke(const QString &action, const QString &values)
 {
     return QStringLiteral(R"({"call":"AM_ActionData::invoke","action":"%1","values":[%2]})").arg(action, values);
 }
-
 QString media(const QString &file, const QString &type)
 {
-    return invoke("MediaPlayerLauncher", QStringLiteral(R"(["mode","playback"],["uri","file://%1"],["mediaType","%2"],["callerName","FileManager"])")
-                                              .arg(Phone + file, type));
+    return invoke("MediaPlayerLauncher", R"(["mode","playback"],["uri","file://%1)" + file + R"("],["mediaType",")"
+                                             + type + R"("],["callerName","FileManager"])");
 }
-
-QString document(const QString &file)
+QString document(const QString &file) { return R"({"call":"AM_LauncherClient::openDocument","path":"%1)" + file + "\"}"; }
+QString notice(const QString &icon, const QString &title, const QString &text)
 {
-    return QStringLiteral(R"({"call":"AM_LauncherClient::openDocument","path":"%1"})").arg(Phone + file);
-}
-
-QString notice(const char *icon, const QString &title, const QString &text)
-{
-    return QStringLiteral(R"({"call":"RES_ICON_Reader::getIcon","name":"%1"})").arg(QLatin1String(icon)) + u'\n'
-        + QStringLiteral(R"({"call":"ZPopup::exec","title":"%1","text":"%2","type":2})").arg(title, text);
+    return R"({"call":"RES_ICON_Reader::getIcon","name":")" + icon + R"("})" "\n" R"({"call":"ZPopup::exec","title":")"
+        + title + R"(","text":")" + text + R"(","type":2})";
 }
 
 } // namespace
@@ -141,6 +136,34 @@ private Q_SLOTS:
         QCOMPARE(open("others/news.url", "url"), (QStringList{R"({"call":"AM_LauncherClient::loadURL","url":""})", "0"}));
         QCOMPARE(open("applications/Chess.jad", "jad"), QStringList{"0"});
         QCOMPARE(open("applications/Sudoku.JAR", "jar"), QStringList{"0"});
+    }
+
+    // Under the write path, its folder made only when missing (and not its
+    // parents), folder and file open to everyone; the environment read each time.
+    void settingsFile()
+    {
+        const auto mode = [](const char *path) { struct stat info; return stat(path, &info) ? 0 : info.st_mode & 07777; };
+        QVERIFY(QFile::setPermissions("/kivlocal/appdata/setup/kiv_tambro.cfg", QFile::ReadOwner));
+        for (const char *path : {" /kivlocal/appdata/ ", "/kivlocal/appdata"}) {
+            qputenv("KIV_APP_WRITE_PATH", path);
+            QCOMPARE(TAMBRO_Global::getConfigFile(), QStringLiteral("/kivlocal/appdata/setup/kiv_tambro.cfg"));
+        }
+        QCOMPARE(mode("/kivlocal/appdata/setup"), 0777u);
+        QCOMPARE(mode("/kivlocal/appdata/setup/kiv_tambro.cfg"), 0777u);
+        qputenv("KIV_APP_WRITE_PATH", "/kivlocal/appdata/new/deeper");
+        QCOMPARE(TAMBRO_Global::getConfigFile(), QStringLiteral("/kivlocal/appdata/new/deeper/setup/kiv_tambro.cfg"));
+        QVERIFY(!QFile::exists("/kivlocal/appdata/new"));
+        qunsetenv("KIV_APP_WRITE_PATH");
+        QCOMPARE(TAMBRO_Global::getConfigFile(), QStringLiteral("/setup/kiv_tambro.cfg"));
+    }
+
+    // Asked once per process, even of a feature table that cannot answer.
+    void featureSwitchesAreAskedOnce()
+    {
+        TestPhone::setDevice("[flex]\n205 = 1\n");
+        for (int round = 0; round < 2; ++round)
+            QVERIFY(TAMBRO_Global::getEmailFlexFlag() && !TAMBRO_Global::getBlogCenterFlexFlag());
+        QCOMPARE(TestPhone::journalled("SETUP_Utility::getFlexBit", "bit").size(), 2);
     }
 
     void openFileNeedsAnExistingFile()

@@ -1,5 +1,4 @@
 // The journal's lines: the shapes that tests and people read, pinned.
-#include "AM_ActionData.h"
 #include "AM_MimeRegistry.h"
 #include "Dmt.h"
 #include "UTIL_MimeType.h"
@@ -31,13 +30,6 @@ private Q_SLOTS:
         QTest::addColumn<Call>("call");
         QTest::addColumn<QByteArray>("expected"); // empty: nothing is journaled
 
-        QTest::newRow("arguments in the call's order, values as sent") << Call([] {
-            AM_ActionData action;
-            action.setAction("ViewImagebyName");
-            action.setValue("FileName", "/x.jpg");
-            action.setValue("SortType", 2);
-            action.invoke(false);
-        }) << QByteArray(R"({"call":"AM_ActionData::invoke","action":"ViewImagebyName","values":[["FileName","/x.jpg"],["SortType",2]]})");
         QTest::newRow("quotes, controls and non-ASCII escaped as JSON") << Call([] {
             ZMessageDlg(QString::fromUtf8("Say \"h\u00E9\" \\ \u2713"), "a\nb\tc\x01", 2, 0).exec();
         }) << QByteArray("{\"call\":\"ZPopup::exec\",\"title\":\"Say \\\"h\xC3\xA9\\\" \\\\ \xE2\x9C\x93\","

@@ -82,7 +82,8 @@ private Q_SLOTS:
         QCOMPARE(warnedLines(file), warnings);
     }
 
-    void warningsNameTheOriginStayShortAndStopAtALimit()
+    // The count that ends a long list of warnings is pinned with the device file's.
+    void warningsNameTheOriginAndStayShort()
     {
         const QByteArray hugeKey(1 << 20, 'k');
         const KeyFile huge = KeyFile::parse("[a]\n" + hugeKey + "=1\n" + hugeKey + "=2\n", "/tmp/dev.ini");
@@ -90,13 +91,6 @@ private Q_SLOTS:
         QCOMPARE(huge.warnings().size(), 1);
         QVERIFY(huge.warnings().first().startsWith(QLatin1String("/tmp/dev.ini:3: ")));
         QVERIFY(huge.warnings().first().size() < 200);
-
-        const KeyFile many = KeyFile::parse("[a]\n" + QByteArray("x\n").repeated(KeyFile::maxWarnings + 50) + "k=v",
-                                            QStringLiteral("dev.ini"));
-        QCOMPARE(many.value("a", "k"), QStringLiteral("v"));
-        QCOMPARE(many.warnings().size(), KeyFile::maxWarnings + 1);
-        QCOMPARE(many.warnings().constLast(),
-                 QStringLiteral("dev.ini:%1: 50 more problems from here on not listed").arg(KeyFile::maxWarnings + 2));
     }
 
     void toNumber_data()

@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <QImage>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -109,6 +110,24 @@ private Q_SLOTS:
         QTemporaryDir shared;
         QCOMPARE(tambro({"ls", "--png", shared.filePath("root.png")}, "C.UTF-8", shared.path()).exitCode, 0);
         QCOMPARE(QImage(shared.filePath("root.png")).size(), QSize(240, 320));
+    }
+
+    // Each file's requests, by their calls; the text file alone, after the launch guard's time.
+    void openReachesThePhonesApplications()
+    {
+        const QString phone = "/kivlocal/download/tambro/";
+        QStringList calls;
+        for (QStringList files : {QStringList{"audio/LOUD.MP3", "picture/logo.png", "others/news.url",
+                                                     "documents/Anna Berg.vcf", "applications/Snake.jad"},
+                                         QStringList{"documents/readme.txt"}}) {
+            const QJsonArray opened = tambro(QStringList{"open", "--json"} + files.replaceInStrings(QRegularExpression("^"), phone)).json().toArray();
+            for (const QJsonValue &file : opened)
+                calls << file["requests"].toArray().last()["call"].toString() + " " + QString::number(file["result"].toInt());
+        }
+        QCOMPARE(calls, (QStringList{"AM_ActionData::invoke 0", "AM_ActionData::invoke 0", "AM_LauncherClient::loadURL 0",
+                                     "ZPopup::exec 0", "TAMBRO_UTIL_Interface::JAVA_Install 1",
+                                     "AM_LauncherClient::openDocument 0"}));
+        QVERIFY(tambro({"settings"}).out.contains("/kivlocal/appdata/setup/kiv_tambro.cfg"));
     }
 
     void usage_data()

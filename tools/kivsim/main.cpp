@@ -270,6 +270,12 @@ void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
     command.setEnvironment(QStringLiteral("TAMBRO_DATA_PATH"), settings.dataPath);
     command.setEnvironment(QStringLiteral("KIV_APP_WRITE_PATH"), settings.writePath);
     command.setEnvironment(QStringLiteral("KIVSIM_DEVICE"), PhoneLayout::deviceFile);
+    // A writable home of the application's own, where font and other caches
+    // may be kept: the host's is read-only inside.
+    const QString writeFolder = folderOf(settings.writePath);
+    const QString home = writeFolder.isEmpty() ? QStringLiteral("/tmp") : writeFolder;
+    command.setEnvironment(QStringLiteral("HOME"), home);
+    command.setEnvironment(QStringLiteral("XDG_CACHE_HOME"), home + QStringLiteral("/.cache"));
     command.setWorkingDirectory(QDir::currentPath());
 #ifdef KIVSIM_BUILD_DIR_WRITABLE
     command.revealHostPath(QStringLiteral(KIVSIM_BUILD_DIR), BwrapCommand::Access::ReadWrite);

@@ -57,4 +57,16 @@ bool isListedExtension(QStringView extension, std::initializer_list<QLatin1Strin
                        [&](QLatin1String listed) { return lowered == listed; });
 }
 
+bool startsWithWord(QStringView text, QLatin1String word)
+{
+    if (text.size() < word.size())
+        return false;
+    // Qt folds every character through its Unicode tables, which costs more
+    // than the registry's answer; for ASCII, lowering is the same folding.
+    const QStringView start = text.left(word.size());
+    if (isAscii(start))
+        return equalsAsciiLowered(start, word);
+    return start.startsWith(word, Qt::CaseInsensitive);
+}
+
 } // namespace Tambro

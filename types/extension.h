@@ -19,4 +19,8 @@ QStringView fileNameExtension(const QString &name);
 // Whether the extension, lower-cased, equals one of the (lower-case) list.
 bool isListedExtension(QStringView extension, std::initializer_list<QLatin1String> list);
 
+// Whether the text begins with the lower-case word ignoring case, exactly as
+// QStringView::startsWith(word, Qt::CaseInsensitive) says.
+bool startsWithWord(QStringView text, QLatin1String word);
+
 } // namespace Tambro

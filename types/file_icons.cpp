@@ -6,6 +6,8 @@
 
 #include "TAMBRO_Global.h"
 
+#include <array>
+
 using Tambro::IconPair;
 namespace Icons = Tambro::Icons;
 
@@ -13,34 +15,51 @@ namespace {
 
 struct IconRow
 {
-    bool (*matches)(const QString &name); // null for the fallback row
+    bool (*matches)(const Tambro::NameExtensions &name); // null for the fallback row
     IconPair icons;
 };
 
 constexpr IconRow FileIconTable[] = {
-    {TAMBRO_Global::isAudioExtension, Icons::Audio},
-    {TAMBRO_Global::isImageExtension, Icons::Picture},
-    {TAMBRO_Global::isVideoExtension, Icons::Video},
+    {Tambro::hasAudioType, Icons::Audio},
+    {Tambro::hasImageType, Icons::Picture},
+    {Tambro::hasVideoType, Icons::Video},
     {Tambro::isJavaExtension, Icons::JavaApplication},
     {Tambro::hasNoDefaultHandler, Icons::Unsupported},
     {Tambro::isPartialDownloadExtension, Icons::PartialDownload},
     {Tambro::isCompleteDownloadExtension, Icons::CompleteDownload},
     {Tambro::isVoiceRecordExtension, Icons::VoiceRecord},
     {Tambro::isTextExtension, Icons::Text},
-    {TAMBRO_Global::isBookMarkExtension, Icons::Bookmark},
+    {Tambro::isBookmarkExtension, Icons::Bookmark},
     {Tambro::isSavedImExtension, Icons::SavedConversation},
-    {TAMBRO_Global::isGlintExtension, Icons::LightPattern},
+    {Tambro::isGlintExtension, Icons::LightPattern},
     {Tambro::isVcardExtension, Icons::Contact},
     {Tambro::isVcalendarExtension, Icons::Calendar},
     {nullptr, Icons::OtherFile},
 };
 
+// The row's icon name as a text made once: a listing asks for one per file,
+// and copying a made text allocates nothing.
+const QString &iconNameOf(const IconRow &row, bool big)
+{
+    using Names = std::array<QString, 2>; // small, big
+    static const auto names = [] {
+        std::array<Names, std::size(FileIconTable)> made;
+        for (size_t i = 0; i < made.size(); ++i) {
+            const IconPair &icons = FileIconTable[i].icons;
+            made[i] = {QString::fromLatin1(icons.small), QString::fromLatin1(icons.big)};
+        }
+        return made;
+    }();
+    return names[&row - FileIconTable][big];
+}
+
 } // namespace
 
 QString TAMBRO_Global::getFileIconByType(const QString &name, bool big)
 {
+    const Tambro::NameExtensions extensions(name);
     const IconRow *row = FileIconTable;
-    while (row->matches && !row->matches(name))
+    while (row->matches && !row->matches(extensions))
         ++row;
-    return QLatin1String(big ? row->icons.big : row->icons.small);
+    return iconNameOf(*row, big);
 }

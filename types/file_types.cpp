@@ -10,6 +10,8 @@
 
 #include <AM_MimeRegistry.h>
 
+#include <algorithm>
+
 using Tambro::fileNameExtension;
 using Tambro::isListedExtension;
 using Tambro::lastDotExtension;
@@ -20,14 +22,13 @@ namespace {
 // Whether the registry's MIME type for the extension begins with the word.
 // The type's white space is simplified first; only a leading run of it can
 // matter for a word at its start, so that alone is skipped.
-bool hasRegisteredKind(const QString &name, QLatin1String word)
+bool hasRegisteredKind(const Tambro::NameExtensions &name, QLatin1String word)
 {
-    const QString extension = lastDotExtension(name).toString();
-    const QString type = TAMBRO_Global::getAmMimeRegInstance()->getAssociatedMimeType(extension);
+    const QString type = TAMBRO_Global::getAmMimeRegInstance()->getAssociatedMimeType(name.lastDotText());
     QStringView rest(type);
     while (!rest.isEmpty() && rest.front().isSpace())
         rest = rest.mid(1);
-    return rest.startsWith(word, Qt::CaseInsensitive);
+    return Tambro::startsWithWord(rest, word);
 }
 
 } // namespace
@@ -46,27 +47,27 @@ bool TAMBRO_Global::isJpgExtension(const QString &name)
 
 bool TAMBRO_Global::isGlintExtension(const QString &name)
 {
-    return isListedExtension(lastDotExtension(name), {L("gnx")});
+    return Tambro::isGlintExtension(name);
 }
 
 bool TAMBRO_Global::isBookMarkExtension(const QString &name)
 {
-    return isListedExtension(lastDotExtension(name), {L("url"), L("vbm")});
+    return Tambro::isBookmarkExtension(name);
 }
 
 bool TAMBRO_Global::isAudioExtension(const QString &name)
 {
-    return hasRegisteredKind(name, L("audio"));
+    return Tambro::hasAudioType(name);
 }
 
 bool TAMBRO_Global::isVideoExtension(const QString &name)
 {
-    return hasRegisteredKind(name, L("video"));
+    return Tambro::hasVideoType(name);
 }
 
 bool TAMBRO_Global::isImageExtension(const QString &name)
 {
-    return hasRegisteredKind(name, L("image"));
+    return Tambro::hasImageType(name);
 }
 
 bool TAMBRO_Global::canAsRingTone(const QString &path)
@@ -77,51 +78,93 @@ bool TAMBRO_Global::canAsRingTone(const QString &path)
 
 namespace Tambro {
 
-bool isCompleteDownloadExtension(const QString &name)
+NameExtensions::NameExtensions(const QString &name)
+    : name(name), lastDot(lastDotExtension(name)), fileName(fileNameExtension(name))
 {
-    return isListedExtension(fileNameExtension(name), {L("cim")});
 }
 
-bool isPartialDownloadExtension(const QString &name)
+const QString &NameExtensions::lastDotText() const
 {
-    return isListedExtension(fileNameExtension(name), {L("cmd")});
+    if (lastDot.size() == name.size())
+        return name; // no dot: the whole name
+    // One string per thread, written over from name to name: no allocation
+    // while the registry keeps no copy of it, and a copy it keeps stays as it
+    // was, since writing to a shared string detaches it first.
+    thread_local QString text;
+    text.resize(lastDot.size());
+    std::copy(lastDot.begin(), lastDot.end(), text.data());
+    return text;
 }
 
-bool isSavedImExtension(const QString &name)
+bool isCompleteDownloadExtension(const NameExtensions &name)
 {
-    return isListedExtension(lastDotExtension(name), {L("im")});
+    return isListedExtension(name.fileName, {L("cim")});
 }
 
-bool isVoiceRecordExtension(const QString &name)
+bool isPartialDownloadExtension(const NameExtensions &name)
 {
-    return isListedExtension(lastDotExtension(name), {L("amr")});
+    return isListedExtension(name.fileName, {L("cmd")});
 }
 
-bool isVcardExtension(const QString &name)
+bool isSavedImExtension(const NameExtensions &name)
 {
-    return isListedExtension(lastDotExtension(name), {L("vcf")});
+    return isListedExtension(name.lastDot, {L("im")});
 }
 
-bool isVcalendarExtension(const QString &name)
+bool isVoiceRecordExtension(const NameExtensions &name)
 {
-    return isListedExtension(lastDotExtension(name), {L("vcs")});
+    return isListedExtension(name.lastDot, {L("amr")});
 }
 
-bool isJavaExtension(const QString &name)
+bool isVcardExtension(const NameExtensions &name)
 {
-    return isListedExtension(lastDotExtension(name), {L("jar"), L("jad")});
+    return isListedExtension(name.lastDot, {L("vcf")});
 }
 
-bool isTextExtension(const QString &name)
+bool isVcalendarExtension(const NameExtensions &name)
 {
-    return isListedExtension(lastDotExtension(name), {L("txt")});
+    return isListedExtension(name.lastDot, {L("vcs")});
 }
 
-bool hasNoDefaultHandler(const QString &name)
+bool isJavaExtension(const NameExtensions &name)
 {
-    const QString extension = lastDotExtension(name).toString();
+    return isListedExtension(name.lastDot, {L("jar"), L("jad")});
+}
+
+bool isTextExtension(const NameExtensions &name)
+{
+    return isListedExtension(name.lastDot, {L("txt")});
+}
+
+bool isGlintExtension(const NameExtensions &name)
+{
+    return isListedExtension(name.lastDot, {L("gnx")});
+}
+
+bool isBookmarkExtension(const NameExtensions &name)
+{
+    return isListedExtension(name.lastDot, {L("url"), L("vbm")});
+}
+
+bool hasAudioType(const NameExtensions &name)
+{
+    return hasRegisteredKind(name, L("audio"));
+}
+
+bool hasVideoType(const NameExtensions &name)
+{
+    return hasRegisteredKind(name, L("video"));
+}
+
+bool hasImageType(const NameExtensions &name)
+{
+    return hasRegisteredKind(name, L("image"));
+}
+
+bool hasNoDefaultHandler(const NameExtensions &name)
+{
     return TAMBRO_Global::getAmMimeRegInstance()
-        ->getDefaultHandlerId(MIME_LOOKUP_BY_EXTENSION, extension, QString())
+        ->getDefaultHandlerId(MIME_LOOKUP_BY_EXTENSION, name.lastDotText(), QString())
         .isNull();
 }
 

@@ -3,18 +3,41 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
 
 namespace Tambro {
 
-bool isCompleteDownloadExtension(const QString &name);
-bool isPartialDownloadExtension(const QString &name);
-bool isSavedImExtension(const QString &name);
-bool isVoiceRecordExtension(const QString &name);
-bool isVcardExtension(const QString &name);
-bool isVcalendarExtension(const QString &name);
-bool isJavaExtension(const QString &name);
-bool isTextExtension(const QString &name);
+// A name with both of its extensions taken once, for the icon table, which
+// asks up to fourteen predicates about one name. Views into the name, which
+// must outlive it.
+struct NameExtensions
+{
+    NameExtensions(const QString &name); // implicit: every predicate takes a plain name too
+
+    // The last-dot extension as a string for the registry, valid until the
+    // thread's next call.
+    const QString &lastDotText() const;
+
+    const QString &name;
+    QStringView lastDot;  // lastDotExtension()
+    QStringView fileName; // fileNameExtension()
+};
+
+bool isCompleteDownloadExtension(const NameExtensions &name);
+bool isPartialDownloadExtension(const NameExtensions &name);
+bool isSavedImExtension(const NameExtensions &name);
+bool isVoiceRecordExtension(const NameExtensions &name);
+bool isVcardExtension(const NameExtensions &name);
+bool isVcalendarExtension(const NameExtensions &name);
+bool isJavaExtension(const NameExtensions &name);
+bool isTextExtension(const NameExtensions &name);
+bool isGlintExtension(const NameExtensions &name);
+bool isBookmarkExtension(const NameExtensions &name);
+// Whether the registry's type of the extension is of the kind.
+bool hasAudioType(const NameExtensions &name);
+bool hasVideoType(const NameExtensions &name);
+bool hasImageType(const NameExtensions &name);
 // True when no application handles the extension, asked as it stands.
-bool hasNoDefaultHandler(const QString &name);
+bool hasNoDefaultHandler(const NameExtensions &name);
 
 } // namespace Tambro

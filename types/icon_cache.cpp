@@ -2,6 +2,8 @@
 
 #include "icon_names.h"
 
+#include "core/text_hash.h"
+
 #include "TAMBRO_Global.h"
 
 #include <RES_ICON_Reader.h>
@@ -15,20 +17,8 @@ namespace Icons = Tambro::Icons;
 
 namespace {
 
-// A plain FNV-1a over the UTF-16 units: a list view asks for the same few
-// names for every row, and this beats QHash's seeded hash on short keys.
-struct IconNameHash
-{
-    size_t operator()(const QString &name) const noexcept
-    {
-        size_t hash = 14695981039346656037ull;
-        for (QChar c : name)
-            hash = (hash ^ c.unicode()) * 1099511628211ull;
-        return hash;
-    }
-};
-
-using IconCache = std::unordered_map<QString, QPixmap, IconNameHash>;
+// A list view asks for the same few names for every row.
+using IconCache = std::unordered_map<QString, QPixmap, Tambro::TextHash>;
 
 // Never freed: pictures must not outlive the application object in static
 // destructors, and the cache lives as long as the process anyway.

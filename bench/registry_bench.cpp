@@ -46,6 +46,7 @@ void mimeType(benchmark::State &state, const char *asked)
 BENCHMARK_CAPTURE(mimeType, listed, "mp3");
 BENCHMARK_CAPTURE(mimeType, listedOtherCase, "MP3");
 BENCHMARK_CAPTURE(mimeType, fromSystem, "png");
+BENCHMARK_CAPTURE(mimeType, wholeName, "Photo 0001");
 
 void handlerByExtension(benchmark::State &state)
 {

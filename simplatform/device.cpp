@@ -333,16 +333,15 @@ private:
 
 std::shared_ptr<const DeviceState> DeviceFile::current()
 {
-    // Read on every call (not once) so that a program can also switch files;
-    // getenv, unlike qgetenv, copies nothing.
-    const QByteArrayView path(std::getenv("KIVSIM_DEVICE"));
+    // Named once per process: reading the environment on every call would
+    // cost more than the look-ups the platform answers.
+    static const QByteArray path = qgetenv("KIVSIM_DEVICE");
     std::lock_guard<std::mutex> lock(m_mutex);
-    const bool samePath = m_state && path == m_path;
-    if (samePath && !m_watch.mayHaveChanged())
+    if (m_state && !m_watch.mayHaveChanged())
         return m_state;
-    if (samePath && stampOf(m_path) == m_stamp)
+    if (m_state && stampOf(m_path) == m_stamp)
         return m_state;
-    m_path = path.toByteArray();
+    m_path = path;
     read();
     return m_state;
 }

@@ -1,5 +1,5 @@
 // The state of the simulated phone, read from the device file that the
-// environment variable KIVSIM_DEVICE names.
+// environment variable KIVSIM_DEVICE names when the first platform call is made.
 //
 // Every call looks whether the file changed and reads it again when it did,
 // so that a test or a person can change the phone while a program runs; a

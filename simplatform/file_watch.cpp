@@ -75,23 +75,24 @@ bool FileWatch::mayHaveChanged()
         addWatch(); // what happened before it is not in its queue
         return true;
     }
-    const Clock::time_point start = Clock::now();
+    const Ticks start = TickClock::now();
     const bool due = lookIsDue(start);
     m_previousCaller = std::this_thread::get_id();
     m_previousCallEnd = start;
     if (!due)
         return false;
     const bool changed = eventsConcernFile();
-    const Clock::time_point end = Clock::now();
+    const Ticks end = TickClock::now();
     m_cheapestLook = std::min(m_cheapestLook, end - start);
     m_lastLook = m_previousCallEnd = end;
     return changed;
 }
 
-bool FileWatch::lookIsDue(Clock::time_point now) const
+bool FileWatch::lookIsDue(Ticks now) const
 {
     // Two calls of one thread closer together than the cheapest look leave it
-    // no time for a system call in between, so for no change of its own.
+    // no time for a system call in between, so for no change of its own. A
+    // count that seems to go back (unsigned, it wraps) makes a look due.
     const bool callerMayHaveWritten = m_previousCaller != std::this_thread::get_id()
         || now - m_previousCallEnd >= m_cheapestLook;
     return callerMayHaveWritten || now - m_lastLook >= maxStaleness;

@@ -25,9 +25,10 @@
 // Not thread-safe: its owner makes one call at a time.
 #pragma once
 
+#include "tick_clock.h"
+
 #include <QByteArray>
 
-#include <chrono>
 #include <thread>
 
 struct inotify_event;
@@ -38,8 +39,8 @@ class FileWatch
 {
 public:
     // The longest that a change made by another thread or process can go
-    // unseen by a thread that calls without a break.
-    static constexpr std::chrono::microseconds maxStaleness{100};
+    // unseen by a thread that calls without a break: a millisecond or less.
+    static constexpr TickClock::Ticks maxStaleness = TickClock::ticksPerMillisecondAtLeast;
 
     FileWatch() = default;
     ~FileWatch();
@@ -54,9 +55,9 @@ public:
     bool mayHaveChanged();
 
 private:
-    using Clock = std::chrono::steady_clock;
+    using Ticks = TickClock::Ticks;
 
-    bool lookIsDue(Clock::time_point now) const;
+    bool lookIsDue(Ticks now) const;
     bool openQueue();
     void addWatch();
     bool eventsConcernFile();
@@ -70,10 +71,10 @@ private:
     QByteArray m_name;
     bool m_folderShowsChanges = false;
     int m_forks = 0; // fork count when the queue was opened
-    Clock::time_point m_lastLook;
-    Clock::duration m_cheapestLook = Clock::duration::max();
+    Ticks m_lastLook = 0;
+    Ticks m_cheapestLook = ~Ticks(0);
     std::thread::id m_previousCaller;
-    Clock::time_point m_previousCallEnd; // when that call was done here
+    Ticks m_previousCallEnd = 0; // when that call was done here
 };
 
 } // namespace KivSim

@@ -16,7 +16,10 @@ QString familyOf(const QString &mimeType)
 
 MimeLookup::MimeLookup(const KeyFile::Section &types, const KeyFile::Section &handlers,
                        const SystemMimeDatabase *system)
-    : m_types(types), m_handlers(handlers), m_system(system)
+    // Whole names are not remembered: each is new, and would push the
+    // extensions a listing repeats out of the cache.
+    : m_types(types), m_handlers(handlers), m_system(system),
+      m_typeAnswers(isPlausibleExtension), m_handlerAnswers(isPlausibleExtension)
 {
 }
 

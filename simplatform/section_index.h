@@ -6,9 +6,12 @@
 
 #include "keyfile.h"
 
-#include <QHash>
+#include "core/text_hash.h"
+
 #include <QString>
 #include <QStringList>
+
+#include <unordered_map>
 
 namespace KivSim {
 
@@ -22,10 +25,21 @@ public:
     // The keys whose value equals the given one ignoring case, in file order.
     QStringList keysWithValue(const QString &value) const;
 
+    // Keys equal ignoring case hash alike, and compare equal, as
+    // QString::compare(Qt::CaseInsensitive) says: no folded copy to look up.
+    struct FoldedHash
+    {
+        size_t operator()(const QString &key) const noexcept;
+    };
+    struct FoldedEqual
+    {
+        bool operator()(const QString &a, const QString &b) const noexcept;
+    };
+
 private:
     QList<KeyFile::Entry> m_entries;
-    QHash<QString, QString> m_exact;
-    QHash<QString, QString> m_folded; // case-folded key -> value of its first key
+    std::unordered_map<QString, QString, Tambro::TextHash> m_exact;
+    std::unordered_map<QString, QString, FoldedHash, FoldedEqual> m_folded; // key -> value, first in file order
 };
 
 } // namespace KivSim

@@ -6,8 +6,6 @@
 
 namespace KivSim {
 
-namespace {
-
 // Extensions are short words; a name without a dot ("Photo 001") reaches the
 // registry whole and is no extension. Asking the database about such names
 // costs a glob match each, tens of microseconds, since every one is new.
@@ -20,8 +18,6 @@ bool isPlausibleExtension(const QString &text)
         return c.isLetterOrNumber() || c == u'_' || c == u'-' || c == u'+' || c == u'~';
     });
 }
-
-} // namespace
 
 QString SystemMimeDatabase::typeOf(const QString &extension) const
 {

@@ -8,6 +8,9 @@
 
 namespace KivSim {
 
+// Whether the text could be an extension rather than a whole name without a dot.
+bool isPlausibleExtension(const QString &text);
+
 class SystemMimeDatabase
 {
 public:

@@ -46,6 +46,8 @@ private Q_SLOTS:
 
         QTest::newRow("exact key") << "Ärger" << "x/exact";
         QTest::newRow("first key ignoring case, folded beyond ASCII") << "ärger" << "x/first";
+        QTest::newRow("Kelvin sign folded to ASCII") << "\u212A7" << "x/kelvin";
+        QTest::newRow("surrogate pair folded as one character") << "\U00010428Q" << "x/pair";
         QTest::newRow("database for unlisted") << "png" << "image/png";
         QTest::newRow("listed ignoring case beats the database") << "jpg" << "x/listed";
         QTest::newRow("nobody knows") << "zzz" << QString();
@@ -56,7 +58,8 @@ private Q_SLOTS:
         QFETCH(QString, extension);
         QFETCH(QString, expected);
         const KivSim::MimeLookup lookup(
-            section({{"ÄrgeR", "x/first"}, {"Ärger", "x/exact"}, {"ärgeR", "x/later"}, {"JPG", "x/listed"}}),
+            section({{"ÄrgeR", "x/first"}, {"Ärger", "x/exact"}, {"ärgeR", "x/later"}, {"JPG", "x/listed"},
+                     {"k7", "x/kelvin"}, {"\U00010400q", "x/pair"}}),
             {}, &m_database);
         QCOMPARE(lookup.typeOf(extension), expected);
         QCOMPARE(lookup.typeOf(extension).isNull(), expected.isNull());
@@ -75,6 +78,10 @@ private Q_SLOTS:
         }
         // Asked as written, and never about what the device lists.
         QCOMPARE(m_database.asked, (QHash<QString, int>{{"png", 1}, {"PNG", 1}, {"zzz", 1}}));
+        for (qsizetype n = 0; n < KivSim::AnswerCache::maxAnswers; ++n)
+            lookup.typeOf(QStringLiteral("Photo %1").arg(n)); // whole names are not remembered
+        lookup.typeOf("png");
+        QCOMPARE(m_database.asked.value("png"), 1);
         for (qsizetype n = 0; n < KivSim::AnswerCache::maxAnswers; ++n)
             lookup.typeOf(QString::number(n));
         lookup.typeOf("png"); // forgotten when the answers started over

@@ -32,7 +32,7 @@ private:
     QString m_folderPath;
     QString m_filePath;
     QString m_fileType;
-    QWidget *m_parent;
+    [[maybe_unused]] QWidget *m_parent; // kept as given: notices have no parent
     RES_ICON_Reader *m_iconReader;
     int m_installArgument;
     bool m_previewFlag;

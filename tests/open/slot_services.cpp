@@ -1,31 +1,20 @@
 // A services library for the tests, compiled without the library's header as
-// a phone's would be: its own class lays the operations out in the order of
-// the calling contract. Each notes which slot it is and what it was given,
-// and answers 100 + its slot. Built in variants without a delete function,
-// with a null factory, without a factory.
+// a phone's would be: its own declaration of the interface, by the same name,
+// lays the operations out in the order of the calling contract. Each notes
+// which slot it is and what it was given, and answers 100 + its slot. Built
+// in variants without a delete function, with a null factory, without a
+// factory.
 #include <QStringList>
 
 #include <cstdlib>
 
 #define EXPORT extern "C" __attribute__((visibility("default")))
 
-namespace {
-
-QByteArray lastCall;
-
-int note(int slot, const QStringList &arguments)
-{
-    lastCall = QByteArray::number(slot) + ':' + arguments.join(u',').toUtf8();
-    return 100 + slot;
-}
-
-QString text(bool value) { return value ? QStringLiteral("true") : QStringLiteral("false"); }
-
 // The contract: the destructor, then the operations in this order.
-class Contract
+class TAMBRO_UTIL_Interface
 {
 public:
-    virtual ~Contract() {}
+    virtual ~TAMBRO_UTIL_Interface() {}
     virtual int J2ME_JAID_ViewJad(const QString &, QString &, int &, bool &, int) = 0;
     virtual int JAVA_Install(const QString &, const QString &, int) = 0;
     virtual int JAVA_Uninstall(int, bool, unsigned int) = 0;
@@ -49,7 +38,19 @@ public:
     virtual int PRTCTR_Print(int, bool, QStringList) = 0;
 };
 
-class SlotServices : public Contract
+namespace {
+
+QByteArray lastCall;
+
+int note(int slot, const QStringList &arguments)
+{
+    lastCall = QByteArray::number(slot) + ':' + arguments.join(u',').toUtf8();
+    return 100 + slot;
+}
+
+QString text(bool value) { return value ? QStringLiteral("true") : QStringLiteral("false"); }
+
+class SlotServices : public TAMBRO_UTIL_Interface
 {
 public:
     int J2ME_JAID_ViewJad(const QString &path, QString &archive, int &number, bool &needs, int argument) override
@@ -87,7 +88,7 @@ EXPORT const char *slotServicesLastCall()
 }
 
 #ifndef WITHOUT_FACTORY
-EXPORT Contract *TAMBRO_EXPORT_CreateInterface()
+EXPORT TAMBRO_UTIL_Interface *TAMBRO_EXPORT_CreateInterface()
 {
 #ifdef NULL_FACTORY
     return nullptr;
@@ -98,7 +99,7 @@ EXPORT Contract *TAMBRO_EXPORT_CreateInterface()
 #endif
 
 #ifndef WITHOUT_DELETE
-EXPORT int TAMBRO_EXPORT_DeleteInterface(Contract **service)
+EXPORT int TAMBRO_EXPORT_DeleteInterface(TAMBRO_UTIL_Interface **service)
 {
     setenv("SLOT_SERVICES_DELETED", "1", 1); // outlives the library
     delete *service;

@@ -40,16 +40,17 @@ size_t AnswerCache::hashOf(const QString &key)
 
 const QString *AnswerCache::find(const QString &key, size_t hash) const
 {
-    if (m_slots.empty())
-        return nullptr;
     const size_t mask = m_slots.size() - 1;
-    for (size_t at = hash & mask;; at = (at + 1) & mask) {
+    for (size_t at = hash & mask; !m_slots.empty(); at = (at + 1) & mask) {
         const Slot &slot = m_slots[at];
         if (!slot.used)
-            return nullptr;
+            break;
         if (slot.hash == hash && sameText(slot.key, key))
             return &slot.answer;
     }
+    if (m_lastOther.used && m_lastOther.hash == hash && sameText(m_lastOther.key, key))
+        return &m_lastOther.answer;
+    return nullptr;
 }
 
 void AnswerCache::remember(const QString &key, size_t hash, const QString &answer)

@@ -16,7 +16,9 @@ public:
     // made-up extensions cannot grow it without end.
     static constexpr qsizetype maxAnswers = 4096;
 
-    // Only keys that keeps() accepts are remembered; it is asked on a miss only.
+    // Only keys that keeps() accepts are remembered, besides the last other
+    // key, which is often asked about again at once; keeps() is asked on a
+    // miss only.
     explicit AnswerCache(bool (*keeps)(const QString &key)) : m_keeps(keeps) {}
 
     // The remembered answer for key, else work(), remembered when kept. work
@@ -31,10 +33,11 @@ public:
                 return *found;
         }
         const QString worked = work();
-        if (m_keeps(key)) {
-            std::lock_guard<std::mutex> lock(m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_keeps(key))
             remember(key, hash, worked);
-        }
+        else
+            m_lastOther = {true, hash, key, worked};
         return worked;
     }
 
@@ -61,6 +64,7 @@ private:
     std::mutex m_mutex;
     std::vector<Slot> m_slots; // kept at most half full
     qsizetype m_count = 0;
+    Slot m_lastOther; // the last key not kept
 };
 
 } // namespace KivSim

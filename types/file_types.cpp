@@ -22,6 +22,17 @@ namespace {
 // Whether the registry's MIME type for the extension begins with the word.
 // The type's white space is simplified first; only a leading run of it can
 // matter for a word at its start, so that alone is skipped.
+// The text in one string per thread, written over from name to name: no
+// allocation while the registry keeps no copy of it, and a copy it keeps
+// stays as it was, since writing to a shared string detaches it first.
+const QString &threadText(QStringView text)
+{
+    thread_local QString written;
+    written.resize(text.size());
+    std::copy(text.begin(), text.end(), written.data());
+    return written;
+}
+
 bool hasRegisteredKind(const Tambro::NameExtensions &name, QLatin1String word)
 {
     const QString type = TAMBRO_Global::getAmMimeRegInstance()->getAssociatedMimeType(name.lastDotText());
@@ -85,15 +96,9 @@ NameExtensions::NameExtensions(const QString &name)
 
 const QString &NameExtensions::lastDotText() const
 {
-    if (lastDot.size() == name.size())
-        return name; // no dot: the whole name
-    // One string per thread, written over from name to name: no allocation
-    // while the registry keeps no copy of it, and a copy it keeps stays as it
-    // was, since writing to a shared string detaches it first.
-    thread_local QString text;
-    text.resize(lastDot.size());
-    std::copy(lastDot.begin(), lastDot.end(), text.data());
-    return text;
+    if (!m_lastDotText)
+        m_lastDotText = lastDot.size() == name.size() ? &name : &threadText(lastDot);
+    return *m_lastDotText;
 }
 
 bool isCompleteDownloadExtension(const NameExtensions &name)

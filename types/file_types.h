@@ -14,13 +14,16 @@ struct NameExtensions
 {
     NameExtensions(const QString &name); // implicit: every predicate takes a plain name too
 
-    // The last-dot extension as a string for the registry, valid until the
-    // thread's next call.
+    // The last-dot extension as a string for the registry, made at the first
+    // call; valid until another name of the thread is asked for its text.
     const QString &lastDotText() const;
 
     const QString &name;
     QStringView lastDot;  // lastDotExtension()
     QStringView fileName; // fileNameExtension()
+
+private:
+    mutable const QString *m_lastDotText = nullptr;
 };
 
 bool isCompleteDownloadExtension(const NameExtensions &name);

@@ -1,5 +1,6 @@
 // The root of the fixed folder tree, and paths relative to it.
 #include "folder_structure.h"
+#include "preload_folders.h"
 
 #include "TAMBRO_FixedFolder.h"
 
@@ -53,6 +54,18 @@ void makeFolderPath(const QString &path)
          slash = path.indexOf(u'/', slash + 1))
         makeFolder(path.left(slash));
     makeFolder(path);
+}
+
+std::optional<QString> groupOfFolder(const QString &path)
+{
+    if (TAMBRO_FixedFolder::isPreloadFolder(path))
+        return toPreloadTagForm(path);
+    if (path == TAMBRO_FixedFolder::m_sFMRootPath)
+        return QLatin1String(RootGroup);
+    const QString relative = relativeFolderPath(path);
+    if (relative.isEmpty())
+        return std::nullopt;
+    return relative;
 }
 
 } // namespace Tambro

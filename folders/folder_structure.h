@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <optional>
+
 class ZConfig;
 
 namespace Tambro {
@@ -35,5 +37,11 @@ QString relativeFolderPath(const QString &absolutePath);
 // Creates every missing folder of the path from the root on, each handed to
 // the phone's file owner. Failures are silently left as they are.
 void makeFolderPath(const QString &path);
+// The structure file's group for a real folder: preloaded content in tag
+// form, the root's, else the root-relative path; nothing when nothing is
+// left of the path after the root.
+std::optional<QString> groupOfFolder(const QString &path);
+// The structure's entry, or the fallback when it is missing or empty.
+QString entryOr(const QString &group, const char *key, const QString &fallback);
 
 } // namespace Tambro

@@ -38,8 +38,8 @@ private:
     bool m_previewFlag;
 };
 
-extern "C" {
+KIVTAMBRO_BEGIN_C_EXPORTS
 // Opens an existing file as the file manager does, with the image viewer's
 // preview: 1 when the file exists (whatever became of it), else 0.
 KIVTAMBRO_EXPORT int TAMBRO_OpenFile(const QString &path, int installArgument);
-}
+KIVTAMBRO_END_C_EXPORTS

@@ -5,7 +5,9 @@
 
 #include "kivtambro_export.h"
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 // How one fixed folder is shown.
 struct FixedFolder
@@ -30,6 +32,11 @@ public:
 
     // --- Fixed folders ----------------------------------------------------
 
+    // The folder for a key word ("image", "voice", "video", ...): its entry,
+    // else its pseudo key word's, else the default folder; made, with every
+    // missing folder above it, when missing. Text from a "/" at index 1 on
+    // is dropped: "image/x" asks for "image".
+    static QString getPathByKey(const QString &key);
     // The default folder, where content without a key word of its own goes:
     // the root when the structure names none. Creates nothing.
     static QString getDefaultFolder();
@@ -39,6 +46,25 @@ public:
     // is a real path, else a group name of the structure file; false, folder
     // untouched, for an absolute path outside the root.
     static bool getFolder(const QString &path, FixedFolder &folder, bool absolute);
+    // Whether the structure describes the folder, a real path under the root;
+    // never the root itself nor preloaded content.
+    static bool isFixedFolder(const QString &path);
+    // The folder's fixed subfolders in display order, each with its
+    // absolutePath: up to the first missing "subN" entry, preloaded ones only
+    // when they are on disk. A user's folder that bears one's display name is
+    // first renamed aside to the name followed by ".1" (".2", ... the first
+    // free), so that the names shown stay unique; nothing is ever replaced.
+    // The one list of the process, refilled by every call; null when the
+    // folder has no fixed subfolders.
+    static const QList<FixedFolder> *getFixedFolderList(const QString &folder);
+    // Whether a fixed subfolder of the folder is shown under the name (blanks
+    // around it ignored, case counts).
+    static bool isFixedFolderName(const QString &folder, const QString &name);
+    // Whether folder/name is the path of a fixed subfolder, case ignored.
+    static bool isFixedFolderNoCaseSensitive(const QString &folder, const QString &name);
+    // Appends the key words of the folder's invisible links to links; false
+    // when the folder has none.
+    static bool getInvLink(const QString &folder, QStringList &links);
 
     // --- Preloaded content under /usr/data_resource ------------------------
 
@@ -59,3 +85,9 @@ public:
     // outside the preloaded content.
     static bool trPreloadFile(const QString &path, QString &name, bool keepExtension);
 };
+
+KIVTAMBRO_BEGIN_C_EXPORTS
+// getFolder(path, folder, true).
+KIVTAMBRO_EXPORT bool TAMBRO_GetFixedFolderInfoByName(const QString &path, FixedFolder &folder);
+KIVTAMBRO_EXPORT QString TAMBRO_GetPathByKey(const QString &key);
+KIVTAMBRO_END_C_EXPORTS

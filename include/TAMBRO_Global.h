@@ -9,6 +9,15 @@
 
 class AM_MimeRegistry;
 
+// How a folder is shown in a listing.
+struct _TAMBRO_FOLDER_RES
+{
+    QString bigIcon; // thumbnail-size icon file name
+    QString smallIcon; // list-size icon file name
+    QString displayName;
+    QString reserved; // never set by the library: the caller's own
+};
+
 class KIVTAMBRO_EXPORT TAMBRO_Global
 {
 public:
@@ -88,6 +97,45 @@ public:
     // process; a null picture when the platform has none.
     static QPixmap getIcon(const QString &iconName);
 
+    // --- Folders, as a listing shows them ----------------------------------
+    //
+    // Any folder: a fixed folder, preloaded content, a storage's mount folder
+    // or a folder inside one, or an ordinary folder. Fields and outputs that
+    // an answer does not concern keep what the caller put there.
+
+    // The icons and name of a folder: a fixed folder's own (with phoneIcon,
+    // the phone memory's picture for both sizes); a storage's short name for
+    // its mount folder, else the last path component, with the card's or the
+    // MegaSIM's icons (the phone memory's folders keep the caller's icons);
+    // any other folder its last component and the generic folder icons.
+    static void getFolderRes(const QString &path, _TAMBRO_FOLDER_RES &res, bool phoneIcon);
+    // The folder under which a folder is listed, and its name: a preloaded
+    // folder's from the structure, the root for a storage's mount folder, else
+    // the real parent (the root when the folder does not exist).
+    static void getFolderParent(const QString &path, QString &parentPath, QString &parentName);
+    // The name under which a folder or file is listed: a fixed folder's
+    // display name, a storage's short name, else the last path component.
+    static QString getShortName(const QString &path);
+    // The location line: the root's display name, then each level's display
+    // name, joined by "/", up to the first level without one. A folder on the
+    // card or the MegaSIM shows the storage's short name followed by the rest
+    // of its path; a path outside the root, the preloaded content and those
+    // storages gives an empty line, an empty path a null one.
+    static QString getDisplayPathName(const QString &path);
+    // The number of "/" in the path, a trailing one not counted.
+    static int getFolderLevel(const QString &path);
+    // The number of the partition whose existing mount folder the path is; 0
+    // for none.
+    static int isPartiName(const QString &path);
+    // The number of the first partition whose mount folder occurs in the path
+    // (its mount folder included); -4 for preloaded content; 0 for none.
+    static int isPartiSubFolder(const QString &path);
+    // The key words' folders ("image", "voice", "video"); their display name
+    // goes to *name when name is not null.
+    static QString myPhoto(QString *name);
+    static QString myVoice(QString *name);
+    static QString myVideo(QString *name);
+
     // --- Settings file and feature switches ---------------------------------
 
     // The file manager's settings file, "setup/kiv_tambro.cfg" under
@@ -106,17 +154,9 @@ private:
     TAMBRO_Global() = default;
 };
 
-extern "C" {
+KIVTAMBRO_BEGIN_C_EXPORTS
 // Despite its name the argument is a device type, as in isDeviceMounted(int).
 KIVTAMBRO_EXPORT int TAMBRO_IsDeviceMountedbyNum(int deviceType);
 KIVTAMBRO_EXPORT int TAMBRO_IsDeviceMountedbyName(const char *deviceName);
-// A toolkit string from a plain function, as the phone's callers expect.
-#ifdef __clang__
-#pragma clang diagnostic push
-#pragma clang diagnostic ignored "-Wreturn-type-c-linkage"
-#endif
 KIVTAMBRO_EXPORT QString TAMBRO_GetDefaultMMCSDPartition();
-#ifdef __clang__
-#pragma clang diagnostic pop
-#endif
-}
+KIVTAMBRO_END_C_EXPORTS

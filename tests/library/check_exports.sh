@@ -21,7 +21,8 @@ if [ -n "$stray" ]; then
 fi
 
 for function in TAMBRO_IsDeviceMountedbyNum TAMBRO_IsDeviceMountedbyName \
-                TAMBRO_GetDefaultMMCSDPartition; do
+                TAMBRO_GetDefaultMMCSDPartition TAMBRO_GetFixedFolderInfoByName \
+                TAMBRO_GetPathByKey TAMBRO_OpenFile; do
     if ! printf '%s\n' "$symbols" | grep -qx "$function"; then
         echo "$function is not exported under its plain name" >&2
         exit 1

@@ -1,0 +1,185 @@
+// The fixed folder queries: key words, subfolder lists, names and links, on
+// a phone whose folder structure file the tests wrote. Lists may rename a
+// user's folders, so each scenario runs on a phone of its own.
+#include <TAMBRO_FixedFolder.h>
+#include <TAMBRO_Global.h>
+
+#include "scenarios.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QTest>
+
+namespace {
+
+const QString Root = QStringLiteral("/kivlocal/download/tambro/root");
+const QString Alpha = Root + QStringLiteral("/alpha");
+
+// Every file below the folder, by its path relative to the folder.
+QStringList filesBelow(const QString &folder)
+{
+    QStringList files;
+    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        files << QDir(folder).relativeFilePath(it.next());
+    files.sort();
+    return files;
+}
+
+void writeFile(const QString &path)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(path.toUtf8()) > 0);
+}
+
+// Name, shown name and absolute path of each listed subfolder.
+QStringList described(const QList<FixedFolder> *list)
+{
+    QStringList rows;
+    for (const FixedFolder &folder : *list)
+        rows << folder.displayName + u'|' + folder.smallIcon + u'|' + folder.absolutePath;
+    return rows;
+}
+
+} // namespace
+
+class TestFixedFolders : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pathByKey_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("path");
+
+        QTest::newRow("a slash and more text ask for the key word") << "alpha/x/y" << Alpha;
+        QTest::newRow("pseudo key word, made with its folders") << "camera" << Alpha + "/camera";
+        QTest::newRow("blanks around the entry are dropped here") << "voice" << Root + "/voice";
+        QTest::newRow("a leading slash keeps the key whole") << "/alpha" << Root + "/others";
+        QTest::newRow("unknown key word gives the default folder") << "nothing" << Root + "/others";
+    }
+
+    void pathByKey()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, path);
+        QCOMPARE(TAMBRO_FixedFolder::getPathByKey(key), path);
+        QVERIFY(QFileInfo(path).isDir());
+        QCOMPARE(TAMBRO_GetPathByKey(key), path);
+    }
+
+    void keyWordShortcutsNameTheirFolders()
+    {
+        QString name = QStringLiteral("untouched");
+        QCOMPARE(TAMBRO_Global::myPhoto(&name), Alpha);
+        QCOMPARE(name, QStringLiteral("Alpha Folder"));
+        QCOMPARE(TAMBRO_Global::myVideo(nullptr), Root + "/zeta");
+        QCOMPARE(TAMBRO_Global::myVoice(&name), Root + "/voice");
+        QCOMPARE(name, QStringLiteral("voice"));
+    }
+
+    // Up to the first missing entry; absent preloaded content left out.
+    void subfolderList()
+    {
+        const QList<FixedFolder> *list = TAMBRO_FixedFolder::getFixedFolderList(Alpha);
+        QVERIFY(list);
+        QCOMPARE(described(list),
+                 (QStringList{"Camera Roll|fm_folder_small.gif|" + Alpha + "/camera",
+                              "Tones|fm_folder_small.gif|/usr/data_resource/tones",
+                              "../zeta|fm_folder_small.gif|" + Alpha + "/two"}));
+        // One list, refilled by every call.
+        QCOMPARE(TAMBRO_FixedFolder::getFixedFolderList(Root), list);
+        QCOMPARE(described(list), (QStringList{"Alpha Folder|alpha_small.gif|" + Alpha,
+                                               "Zeta Folder|fm_folder_small.gif|" + Root + "/zeta"}));
+        QVERIFY(!TAMBRO_FixedFolder::getFixedFolderList(Root + "/zeta")); // no sub_num
+        QVERIFY(!TAMBRO_FixedFolder::getFixedFolderList(QStringLiteral("/elsewhere")));
+    }
+
+    void names_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("displayName");
+        QTest::addColumn<bool>("pathIgnoringCase");
+
+        QTest::newRow("display name, blanks around ignored") << " Camera Roll " << true << false;
+        QTest::newRow("display name in other case") << "camera roll" << false << false;
+        QTest::newRow("folder name in other case") << "CAMERA" << false << true;
+        QTest::newRow("preloaded content by its display name only") << "Tones" << true << false;
+    }
+
+    void names()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, displayName);
+        QFETCH(bool, pathIgnoringCase);
+        QCOMPARE(TAMBRO_FixedFolder::isFixedFolderName(Alpha, name), displayName);
+        QCOMPARE(TAMBRO_FixedFolder::isFixedFolderNoCaseSensitive(Alpha, name), pathIgnoringCase);
+    }
+
+    void fixedFoldersAndLinks()
+    {
+        QVERIFY(TAMBRO_FixedFolder::isFixedFolder(Alpha));
+        QVERIFY(!TAMBRO_FixedFolder::isFixedFolder(Root));
+        QVERIFY(!TAMBRO_FixedFolder::isFixedFolder(Root + "/others")); // a key word without a group
+        QVERIFY(!TAMBRO_FixedFolder::isFixedFolder(QStringLiteral("/usr/data_resource/tones")));
+        QStringList links{QStringLiteral("kept")};
+        QVERIFY(TAMBRO_FixedFolder::getInvLink(Alpha, links));
+        QVERIFY(TAMBRO_FixedFolder::getInvLink(Root, links));
+        QCOMPARE(links, (QStringList{"kept", "camera", "image", "camera"}));
+        QVERIFY(!TAMBRO_FixedFolder::getInvLink(Root + "/zeta", links));
+        FixedFolder folder;
+        QVERIFY(TAMBRO_GetFixedFolderInfoByName(Alpha, folder));
+        QCOMPARE(folder.displayName, QStringLiteral("Alpha Folder"));
+    }
+
+    // The user's folder bearing a fixed subfolder's display name moves to the
+    // first free number, with all it holds; nothing else moves.
+    void renamedAsideWithEverything_data()
+    {
+        QTest::addColumn<bool>("blockedByFile"); // "Camera Roll.1" is a file
+        QTest::newRow("first free number") << false;
+        QTest::newRow("a file holds the number: nothing moves") << true;
+    }
+
+    void renamedAsideWithEverything()
+    {
+        QFETCH(bool, blockedByFile);
+        TAMBRO_FixedFolder::initialize();
+        const QString named = Alpha + "/Camera Roll";
+        writeFile(named + "/a.txt");
+        writeFile(named + "/inner/b.txt");
+        writeFile(named + ".2/d.txt");
+        writeFile(blockedByFile ? named + ".1" : named + ".1/c.txt");
+        writeFile(Alpha + "/Tones/e.txt");
+        const QStringList held = filesBelow(named);
+        const QStringList all = filesBelow(Root);
+
+        QVERIFY(TAMBRO_FixedFolder::getFixedFolderList(Alpha));
+
+        QCOMPARE(filesBelow(Root).size(), all.size());
+        QCOMPARE(filesBelow(blockedByFile ? named : named + ".3"), held);
+        QCOMPARE(QFileInfo::exists(named), blockedByFile);
+        QCOMPARE(filesBelow(named + ".2"), QStringList{"d.txt"});
+        QCOMPARE(filesBelow(Alpha + "/Tones.1"), QStringList{"e.txt"}); // preloaded content's name too
+        QVERIFY(QFileInfo(Root + "/zeta").isDir()); // "../zeta" is no name to free
+    }
+
+    void readOnlyStorageKeepsEverything()
+    {
+        const QString named = TAMBRO_FixedFolder::m_sFMRootPath + "/Alpha Folder";
+        QCOMPARE(named, QStringLiteral("/usr/SYSqtapp/tambro/root/Alpha Folder"));
+        const QList<FixedFolder> *list = TAMBRO_FixedFolder::getFixedFolderList(TAMBRO_FixedFolder::m_sFMRootPath);
+        QVERIFY(list && list->size() == 2);
+        QCOMPARE(filesBelow(named), QStringList{"keep.txt"});
+        QVERIFY(!QFileInfo::exists(named + ".1"));
+    }
+};
+
+KIVTAMBRO_SCENARIO_MAIN(TestFixedFolders,
+                        {{"readOnlyStorageKeepsEverything",
+                          {QString(), {"TAMBRO_DATA_PATH=/usr/SYSqtapp/tambro/root"}}}},
+                        QStringLiteral(STRUCTURE_DEVICE))
+#include "tst_fixed_folders.moc"

@@ -73,6 +73,10 @@ private Q_SLOTS:
 
     void keyWordShortcutsNameTheirFolders()
     {
+        TAMBRO_FixedFolder::initialize();
+        QVERIFY(QDir().rmdir(Root + "/others"));
+        QCOMPARE(TAMBRO_FixedFolder::getDefaultFolder(), Root + "/others");
+        QVERIFY(!QFileInfo::exists(Root + "/others")); // only asking for a key word makes it
         QString name = QStringLiteral("untouched");
         QCOMPARE(TAMBRO_Global::myPhoto(&name), Alpha);
         QCOMPARE(name, QStringLiteral("Alpha Folder"));

@@ -77,14 +77,15 @@ private Q_SLOTS:
         const QJsonObject image = entryWith(structure["keyWords"], "key", "image");
         QCOMPARE(image["path"].toString(), root + "/picture");
         QCOMPARE(image["smallIcon"].toString(), "fm_pict_folder_small.gif");
-        // The sample phone lacks the themes folder: the library makes it; never a pseudo key word's.
+        QCOMPARE(image["subfolders"].toArray(), QJsonArray({"Camera", "Preloaded Pictures"}));
+        QCOMPARE(image["invisibleLinks"].toArray(), QJsonArray({"camera"}));
+        // The sample phone lacks the themes and camera folders: the library makes them.
         QCOMPARE(entryWith(structure["keyWords"], "key", "theme")["onDisk"].toString(), "created");
-        QCOMPARE(entryWith(structure["keyWords"], "key", "camera")["onDisk"].toString(), "missing");
+        QCOMPARE(entryWith(structure["keyWords"], "key", "camera")["onDisk"].toString(), "created");
         const QJsonObject pictures = entryWith(structure["preloadedFolders"], "group", "//ZELK_PRELOAD:/pic");
         QCOMPARE(pictures["parentPath"].toString(), root + "/picture");
         QCOMPARE(pictures["files"].toArray().size(), 2);
-        QCOMPARE(entryWith(structure["preloadedFolders"], "group", "//ZELK_PRELOAD:/video")["onDisk"].toString(),
-                 "missing");
+        QVERIFY(entryWith(structure["preloadedFolders"], "group", "//ZELK_PRELOAD:/video").isEmpty()); // absent
 
         const QJsonValue german = tambro({"folders", "--json"}, "de_DE.UTF-8").json();
         QCOMPARE(entryWith(german["keyWords"], "key", "image")["name"].toString(), "Bilder");
@@ -94,15 +95,32 @@ private Q_SLOTS:
                  "Rahmen.gif");
     }
 
-    void lsListsFoldersFirstThenFilesByName()
+    // Fixed subfolders in their order (at the root, the storages next), then
+    // other folders, then files by name; the user's "Pictures" renamed aside.
+    void lsShowsThePhonesListView()
     {
-        const QJsonValue listing = tambro({"ls", "--json", "/kivlocal/download/tambro/picture"}).json();
-        QCOMPARE(listing["title"].toString(), "Pictures");
+        const QJsonValue picture = tambro({"ls", "--json", "/kivlocal/download/tambro/picture"}).json();
+        QCOMPARE(picture["title"].toString(), "My Files/Pictures");
         QStringList names;
-        for (const QJsonValue &entry : listing["entries"].toArray())
+        for (const QJsonValue &entry : picture["entries"].toArray())
             names << entry["name"].toString();
-        QCOMPARE(names, (QStringList{"banner.bmp", "flowers.jpeg", "holiday.jpg", "logo.png",
+        QCOMPARE(names, (QStringList{"camera", "pic", "banner.bmp", "flowers.jpeg", "holiday.jpg", "logo.png",
                                      "operator.wbmp", "smiley.gif", "sunset.JPG"}));
+        const QJsonArray root = tambro({"ls", "--json"}).json()["entries"].toArray();
+        QStringList tail;
+        for (qsizetype i = 8; i < root.size(); ++i)
+            tail << root[i]["kind"].toString() + ' ' + root[i]["shownAs"].toString() + ' ' + root[i]["smallIcon"].toString();
+        QCOMPARE(tail, (QStringList{"folder Themes fm_folder_small.gif", "storage Work SIM ctact_sim_small.gif",
+                                    "storage Memory Card fm_memory_card_small.gif", "folder Pictures.1 fm_folder_small.gif"}));
+    }
+
+    void pathTellsWhereAFolderIsShown()
+    {
+        const QJsonArray paths = tambro({"path", "--json", "/mmc/mmca1/DCIM", "/usr/data_resource/pic"}).json().toArray();
+        QCOMPARE(paths.at(0)["location"].toString(), "My Files/Memory Card/DCIM");
+        QCOMPARE(paths.at(0)["partition"].toInt(), 3);
+        QCOMPARE(paths.at(1)["parentName"].toString(), "Pictures");
+        QCOMPARE(paths.at(1)["partition"].toInt(), -4);
     }
 
     void lsDrawsThePhoneScreen()

@@ -6,6 +6,8 @@
 #include <TAMBRO_Global.h>
 
 #include <QDir>
+#include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 
@@ -16,25 +18,23 @@ QByteArray bytesUnlessText(const DiskEntry &entry)
     return entry.nameIsText() ? QByteArray() : entry.nameBytes;
 }
 
-// Fixed folders carry their own icons and names. Any other folder gets the
-// generic ones, which the structure gives a folder it does not name: asked
-// by the path as a name when the folder lies outside the root.
-ListedEntry folderEntry(const QString &path, const DiskEntry &entry)
+// The library gives every folder its icons and name; the phone memory's
+// folders outside the fixed structure keep the generic icons set here.
+ListedEntry folderEntry(const QString &path, const QString &name, ListedEntry::Kind kind)
 {
-    FixedFolder folder;
-    if (!TAMBRO_FixedFolder::getFolder(path, folder, true))
-        TAMBRO_FixedFolder::getFolder(path, folder, false);
-    return {entry.name, bytesUnlessText(entry), folder.displayName, true, folder.bigIcon,
-            folder.smallIcon};
+    _TAMBRO_FOLDER_RES res;
+    res.bigIcon = QStringLiteral("fm_folder_thb.gif");
+    res.smallIcon = QStringLiteral("fm_folder_small.gif");
+    TAMBRO_Global::getFolderRes(path, res, false);
+    return {name, QByteArray(), res.displayName, kind, res.bigIcon, res.smallIcon};
 }
 
 ListedEntry fileEntry(const QString &path, const DiskEntry &entry)
 {
-    QString shownAs = entry.name;
+    QString shownAs = TAMBRO_Global::getShortName(path);
     TAMBRO_FixedFolder::trPreloadFile(path, shownAs, true);
-    return {entry.name, bytesUnlessText(entry), shownAs, false,
-            TAMBRO_Global::getFileIconByType(path, true),
-            TAMBRO_Global::getFileIconByType(path, false)};
+    return {entry.name, bytesUnlessText(entry), shownAs, ListedEntry::File,
+            TAMBRO_Global::getFileIconByType(path, true), TAMBRO_Global::getFileIconByType(path, false)};
 }
 
 void sortByName(QList<ListedEntry> &entries)
@@ -44,32 +44,58 @@ void sortByName(QList<ListedEntry> &entries)
     });
 }
 
-QString titleOf(const QString &folder)
+// The card and the MegaSIM, which the phone shows under the root.
+QList<ListedEntry> storages()
 {
-    FixedFolder fixed;
-    if (TAMBRO_FixedFolder::getFolder(folder, fixed, true))
-        return fixed.displayName;
-    return QFileInfo(folder).fileName();
+    QList<ListedEntry> entries;
+    for (int parti = 1; parti <= TAMBRO_Global::getPartiActNumber(); ++parti) {
+        if (TAMBRO_Global::isCards(parti)) {
+            const QString path = TAMBRO_Global::getPartiName(parti);
+            entries << folderEntry(path, path, ListedEntry::Storage);
+        }
+    }
+    return entries;
 }
 
 } // namespace
 
+QStringList fixedSubfolders(const QString &folder)
+{
+    QStringList paths;
+    if (const QList<FixedFolder> *list = TAMBRO_FixedFolder::getFixedFolderList(folder)) {
+        for (const FixedFolder &fixed : *list)
+            paths << fixed.absolutePath;
+    }
+    return paths;
+}
+
 std::optional<FolderListing> listFolder(const QString &folder)
 {
-    const std::optional<QList<DiskEntry>> entries = readFolder(folder);
+    const QString absolute = QDir::cleanPath(QDir(folder).absolutePath());
+    // Before the folder is read: a user's folder may be renamed aside first.
+    const QStringList fixedPaths = fixedSubfolders(absolute);
+    const std::optional<QList<DiskEntry>> entries = readFolder(absolute);
     if (!entries)
         return std::nullopt;
-    const QString absolute = QDir::cleanPath(QDir(folder).absolutePath());
+    QList<ListedEntry> fixed;
+    for (const QString &path : fixedPaths)
+        fixed << folderEntry(path, QFileInfo(path).fileName(), ListedEntry::Folder);
+    const QSet<QString> shownAlready(fixedPaths.cbegin(), fixedPaths.cend());
     QList<ListedEntry> folders;
     QList<ListedEntry> files;
     for (const DiskEntry &entry : *entries) {
         const QString path = QDir(absolute).filePath(entry.name);
-        if (entry.isFolder)
-            folders.append(folderEntry(path, entry));
-        else
-            files.append(fileEntry(path, entry));
+        if (shownAlready.contains(path))
+            continue;
+        if (entry.isFolder) {
+            folders << folderEntry(path, entry.name, ListedEntry::Folder);
+            folders.last().nameBytes = bytesUnlessText(entry);
+        } else {
+            files << fileEntry(path, entry);
+        }
     }
     sortByName(folders);
     sortByName(files);
-    return FolderListing{titleOf(absolute), folders + files};
+    const QList<ListedEntry> atRoot = absolute == TAMBRO_FixedFolder::m_sFMRootPath ? storages() : QList<ListedEntry>();
+    return FolderListing{TAMBRO_Global::getDisplayPathName(absolute), fixed + atRoot + folders + files};
 }

@@ -1,27 +1,36 @@
-// A folder's entries as the file manager lists them.
+// A folder's entries as the phone's list view shows them.
 #pragma once
 
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
 struct ListedEntry
 {
-    QString name; // on disk; bytes that are not UTF-8 show as replacement characters
+    enum Kind { Folder, Storage, File };
+
+    QString name; // on disk (a storage's mount folder); bytes that are not UTF-8 show as replacement characters
     QByteArray nameBytes; // the name's bytes when they are not UTF-8, else empty
     QString shownAs; // the display name
-    bool isFolder = false;
+    Kind kind = File;
     QString bigIcon;
     QString smallIcon;
 };
 
 struct FolderListing
 {
-    QString title; // the folder's display name
-    QList<ListedEntry> entries; // folders first, then files, each sorted by name
+    QString title; // the folder's location line
+    // The fixed subfolders in their order; at the root, the card and the
+    // MegaSIM; then the other folders, then the files, each sorted by name.
+    QList<ListedEntry> entries;
 };
 
 // Nothing when the folder cannot be read.
 std::optional<FolderListing> listFolder(const QString &folder);
+
+// The folder's fixed subfolders' paths, in their order. The library may
+// rename a user's folder aside on the way.
+QStringList fixedSubfolders(const QString &folder);

@@ -1,5 +1,6 @@
 #include "folders_command.h"
 
+#include "folder_listing.h"
 #include "folder_reader.h"
 #include "text_table.h"
 
@@ -20,12 +21,11 @@
 
 namespace {
 
-// What the folder structure file says is read here as its format is
-// documented (docs/devices.md); what the library makes of it comes from the
-// library. The file's groups:
+// Only what the library does not tell, which key words there are, is read
+// from the folder structure file here, as its format is documented
+// (docs/devices.md); every answer about them comes from the library.
 constexpr char KeyWordGroup[] = "TAMBRO_KEYWORD";
 constexpr char PseudoKeyWordGroup[] = "TAMBRO_PSEUDO_KEYWORD";
-constexpr char RootGroup[] = "TOPLEVEL";
 // The tag that stands for the preload root in preloaded folders' names.
 constexpr char PreloadTag[] = "//ZELK_PRELOAD:";
 
@@ -43,9 +43,10 @@ QString absoluteFolderPath(const QString &relativePath)
     return TAMBRO_FixedFolder::m_sFMRootPath + relativePath;
 }
 
-QString fromTagForm(const QString &taggedPath)
+// A preloaded folder's name in the file: the tag in place of the preload root.
+QString toTagForm(const QString &path)
 {
-    return QLatin1String(KivPaths::PreloadRoot) + taggedPath.mid(qsizetype(strlen(PreloadTag)));
+    return QLatin1String(PreloadTag) + path.mid(qsizetype(strlen(KivPaths::PreloadRoot)));
 }
 
 bool isFolder(const QString &path)
@@ -71,59 +72,78 @@ struct KeyWord
     bool existedBefore = false;
 };
 
+// The key words as the file lists them, with whether each folder the library
+// may give them existed before its first look at the structure, which makes
+// folders: the path as written and trimmed (what the library takes).
 QList<KeyWord> readKeyWords(const ZConfig &structure)
 {
     QList<KeyWord> keyWords;
     for (const auto &[group, pseudo] : {std::pair{KeyWordGroup, false}, std::pair{PseudoKeyWordGroup, true}}) {
         QMap<QString, QString> entries;
         structure.getGroupEntriesKeyList(QLatin1String(group), entries);
-        for (auto it = entries.cbegin(); it != entries.cend(); ++it) {
-            const QString path = absoluteFolderPath(it.value());
-            keyWords.append({it.key(), pseudo, it.value(), path, isFolder(path)});
-        }
+        for (auto it = entries.cbegin(); it != entries.cend(); ++it)
+            keyWords.append({it.key(), pseudo, it.value(), QString(), false});
     }
     return keyWords;
 }
 
-// The fixed folders' entries that name further folders: subfolders in their
-// order (up to the first empty one) and the preloaded folder shown inside.
-QStringList namedFolders(const ZConfig &structure, const QString &group)
+QSet<QString> existingCandidates(const QList<KeyWord> &keyWords)
 {
-    QStringList folders;
-    const int count = structure.readNumEntry(group, QStringLiteral("sub_num"), -1);
-    for (int i = 1; i <= count; ++i) {
-        const QString sub = structure.readEntry(group, QStringLiteral("sub%1").arg(i), QString());
-        if (sub.isEmpty())
-            break;
-        folders << sub;
+    QSet<QString> existing;
+    for (const KeyWord &keyWord : keyWords) {
+        for (const QString &relative : {keyWord.relativePath, keyWord.relativePath.trimmed()}) {
+            if (isFolder(absoluteFolderPath(relative)))
+                existing.insert(absoluteFolderPath(relative));
+        }
     }
-    const QString preload = structure.readEntry(group, QStringLiteral("preload_path"), QString());
-    if (!preload.isEmpty())
-        folders << preload;
-    return folders;
+    return existing;
 }
 
-// The preloaded folders (in tag form) reachable from the root and the key
-// words' folders, in the order they are first named.
-QStringList preloadedFolders(const ZConfig &structure, const QList<KeyWord> &keyWords)
+// Where the library puts each key word's content; it makes missing folders.
+void findKeyWordFolders(QList<KeyWord> &keyWords)
 {
-    QStringList pending = {QLatin1String(RootGroup)};
+    const QSet<QString> existing = existingCandidates(keyWords);
+    for (KeyWord &keyWord : keyWords) {
+        keyWord.path = TAMBRO_FixedFolder::getPathByKey(keyWord.key);
+        keyWord.existedBefore = existing.contains(keyWord.path);
+    }
+}
+
+// The preloaded folders shown in the root's and the key words' folders, or
+// deeper, in the order they are first listed. Absent ones are not listed.
+QStringList preloadedFolders(const QList<KeyWord> &keyWords)
+{
+    QStringList pending = {TAMBRO_FixedFolder::m_sFMRootPath};
     for (const KeyWord &keyWord : keyWords)
-        pending << keyWord.relativePath;
+        pending << keyWord.path;
     QSet<QString> seen(pending.cbegin(), pending.cend());
     QStringList preloaded;
     for (qsizetype next = 0; next < pending.size(); ++next) {
-        for (const QString &folder : namedFolders(structure, pending.at(next))) {
+        for (const QString &folder : fixedSubfolders(pending.at(next))) {
             if (seen.contains(folder))
                 continue;
             seen.insert(folder);
-            if (TAMBRO_FixedFolder::hasPreloadFolderTag(folder))
-                preloaded << folder;
-            else
-                pending << folder;
+            (TAMBRO_FixedFolder::isPreloadFolder(folder) ? preloaded : pending) << folder;
         }
     }
     return preloaded;
+}
+
+QJsonArray subfolderNames(const QString &folder)
+{
+    QJsonArray names;
+    if (const QList<FixedFolder> *list = TAMBRO_FixedFolder::getFixedFolderList(folder)) {
+        for (const FixedFolder &fixed : *list)
+            names.append(fixed.displayName);
+    }
+    return names;
+}
+
+QJsonArray invisibleLinks(const QString &folder)
+{
+    QStringList links;
+    TAMBRO_FixedFolder::getInvLink(folder, links);
+    return QJsonArray::fromStringList(links);
 }
 
 QJsonObject keyWordObject(const KeyWord &keyWord)
@@ -139,6 +159,8 @@ QJsonObject keyWordObject(const KeyWord &keyWord)
         {QStringLiteral("name"), folder.displayName},
         {QStringLiteral("bigIcon"), folder.bigIcon},
         {QStringLiteral("smallIcon"), folder.smallIcon},
+        {QStringLiteral("subfolders"), subfolderNames(keyWord.path)},
+        {QStringLiteral("invisibleLinks"), invisibleLinks(keyWord.path)},
     };
 }
 
@@ -164,19 +186,17 @@ QJsonArray preloadedFileObjects(const QString &folder)
     return files;
 }
 
-QJsonObject preloadedFolderObject(const QString &taggedPath)
+QJsonObject preloadedFolderObject(const QString &path)
 {
-    const QString path = fromTagForm(taggedPath);
     QString parentPath;
     QString parentName;
     TAMBRO_FixedFolder::getPreloadFolderParent(path, parentPath, parentName);
     FixedFolder folder;
     TAMBRO_FixedFolder::getFolder(path, folder, true);
     return QJsonObject{
-        {QStringLiteral("group"), taggedPath},
+        {QStringLiteral("group"), toTagForm(path)},
         {QStringLiteral("path"), path},
         {QStringLiteral("name"), folder.displayName},
-        {QStringLiteral("onDisk"), isFolder(path) ? QStringLiteral("yes") : QStringLiteral("missing")},
         {QStringLiteral("parentPath"), parentPath},
         {QStringLiteral("parentName"), parentName},
         {QStringLiteral("files"), preloadedFileObjects(path)},
@@ -186,17 +206,20 @@ QJsonObject preloadedFolderObject(const QString &taggedPath)
 QJsonObject describeStructure()
 {
     const QString file = structureFilePath();
-    const ZConfig structure(file, false);
     // Read before the library's first query creates the key words' folders.
-    const QList<KeyWord> keyWords = readKeyWords(structure);
+    QList<KeyWord> keyWords = readKeyWords(ZConfig(file, false));
+    findKeyWordFolders(keyWords);
     QJsonArray keyWordArray;
     for (const KeyWord &keyWord : keyWords)
         keyWordArray.append(keyWordObject(keyWord));
     QJsonArray preloadedArray;
-    for (const QString &folder : preloadedFolders(structure, keyWords))
+    for (const QString &folder : preloadedFolders(keyWords))
         preloadedArray.append(preloadedFolderObject(folder));
+    const QString &root = TAMBRO_FixedFolder::m_sFMRootPath;
     return QJsonObject{
-        {QStringLiteral("root"), TAMBRO_FixedFolder::m_sFMRootPath},
+        {QStringLiteral("root"), root},
+        {QStringLiteral("rootSubfolders"), subfolderNames(root)},
+        {QStringLiteral("rootInvisibleLinks"), invisibleLinks(root)},
         {QStringLiteral("structureFile"), file},
         {QStringLiteral("structureFileExists"), QFileInfo::exists(file)},
         {QStringLiteral("defaultFolder"), TAMBRO_FixedFolder::getDefaultFolder()},
@@ -227,15 +250,42 @@ QString keyWordTable(const QJsonArray &keyWords)
 
 QString preloadedTable(const QJsonArray &folders)
 {
-    TextTable table({QStringLiteral("PRELOADED FOLDER"), QStringLiteral("PATH"),
-                     QStringLiteral("ON DISK"), QStringLiteral("NAME"), QStringLiteral("PARENT"),
-                     QStringLiteral("PARENT NAME")});
+    TextTable table({QStringLiteral("PRELOADED FOLDER"), QStringLiteral("PATH"), QStringLiteral("NAME"),
+                     QStringLiteral("PARENT"), QStringLiteral("PARENT NAME")});
     for (const QJsonValue &value : folders) {
         const QJsonObject f = value.toObject();
         table.addRow({f[QStringLiteral("group")].toString(), f[QStringLiteral("path")].toString(),
-                      f[QStringLiteral("onDisk")].toString(), f[QStringLiteral("name")].toString(),
-                      orDash(f[QStringLiteral("parentPath")].toString()),
+                      f[QStringLiteral("name")].toString(), orDash(f[QStringLiteral("parentPath")].toString()),
                       orDash(f[QStringLiteral("parentName")].toString())});
+    }
+    return table.toString();
+}
+
+QString joined(const QJsonValue &texts)
+{
+    QStringList list;
+    for (const QJsonValue &text : texts.toArray())
+        list << text.toString();
+    return orDash(list.join(QStringLiteral(", ")));
+}
+
+// The fixed folders that have subfolders or invisible links: the root, then
+// the key words' folders, each once.
+QString subfolderTable(const QJsonObject &structure)
+{
+    TextTable table({QStringLiteral("FIXED FOLDER"), QStringLiteral("INVISIBLE LINKS"), QStringLiteral("SUBFOLDERS")});
+    const auto addRow = [&](const QString &path, const QJsonValue &subfolders, const QJsonValue &links) {
+        if (!subfolders.toArray().isEmpty() || !links.toArray().isEmpty())
+            table.addRow({path, joined(links), joined(subfolders)});
+    };
+    addRow(structure[QStringLiteral("root")].toString(), structure[QStringLiteral("rootSubfolders")],
+           structure[QStringLiteral("rootInvisibleLinks")]);
+    QSet<QString> shown;
+    for (const QJsonValue &value : structure[QStringLiteral("keyWords")].toArray()) {
+        const QString path = value[QStringLiteral("path")].toString();
+        if (!shown.contains(path))
+            addRow(path, value[QStringLiteral("subfolders")], value[QStringLiteral("invisibleLinks")]);
+        shown.insert(path);
     }
     return table.toString();
 }
@@ -264,7 +314,7 @@ QString textReport(const QJsonObject &structure)
     summary.addRow({QStringLiteral("Default folder"),
                     orDash(structure[QStringLiteral("defaultFolder")].toString())});
     return summary.toString() + u'\n' + keyWordTable(structure[QStringLiteral("keyWords")].toArray())
-        + u'\n' + preloadedTable(structure[QStringLiteral("preloadedFolders")].toArray()) + u'\n'
+        + u'\n' + subfolderTable(structure) + u'\n' + preloadedTable(structure[QStringLiteral("preloadedFolders")].toArray()) + u'\n'
         + preloadedFileTable(structure[QStringLiteral("preloadedFolders")].toArray());
 }
 

@@ -16,6 +16,19 @@ namespace {
 
 constexpr int Failure = 1;
 
+QString kindName(ListedEntry::Kind kind)
+{
+    switch (kind) {
+    case ListedEntry::Folder:
+        return QStringLiteral("folder");
+    case ListedEntry::Storage:
+        return QStringLiteral("storage");
+    case ListedEntry::File:
+        break;
+    }
+    return QStringLiteral("file");
+}
+
 QJsonObject toJson(const QString &folder, const FolderListing &listing)
 {
     QJsonArray entries;
@@ -23,7 +36,7 @@ QJsonObject toJson(const QString &folder, const FolderListing &listing)
         QJsonObject object{
             {QStringLiteral("name"), entry.name},
             {QStringLiteral("shownAs"), entry.shownAs},
-            {QStringLiteral("kind"), entry.isFolder ? QStringLiteral("folder") : QStringLiteral("file")},
+            {QStringLiteral("kind"), kindName(entry.kind)},
             {QStringLiteral("bigIcon"), entry.bigIcon},
             {QStringLiteral("smallIcon"), entry.smallIcon},
         };
@@ -47,7 +60,7 @@ QString textTable(const QJsonObject &listing)
             row << entry[QLatin1String(field)].toString();
         table.addRow(row);
     }
-    return table.toString();
+    return listing[QStringLiteral("title")].toString() + QStringLiteral("\n\n") + table.toString();
 }
 
 int fail(const QString &message)

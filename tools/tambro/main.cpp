@@ -3,6 +3,7 @@
 #include "ls_command.h"
 #include "open_command.h"
 #include "output.h"
+#include "path_command.h"
 #include "request.h"
 #include "storage_command.h"
 #include "type_command.h"
@@ -26,8 +27,12 @@ const char Usage[] = "Usage: tambro COMMAND [OPTIONS] [ARGUMENTS]\n"
                      "  folders          the fixed folder structure: key words and their folders,\n"
                      "                   the default folder, preloaded folders and their files\n"
                      "  type NAME...     each name's file types and its big and small icons\n"
-                     "  ls [FOLDER]      a folder as the file manager lists it: folders first,\n"
-                     "                   then files, each with its icons (default: the root)\n"
+                     "  ls [FOLDER]      a folder as the phone's list view shows it, under its\n"
+                     "                   location line: fixed subfolders in their order (at the\n"
+                     "                   root then the card and the MegaSIM), other folders, then\n"
+                     "                   files, each with its icons (default: the root)\n"
+                     "  path PATH...     each path's location line, parent, short name, level,\n"
+                     "                   partition, fixed subfolders and invisible links\n"
                      "  open FILE...     opens each file as the file manager does and shows the\n"
                      "                   requests that reached the phone's applications\n"
                      "  settings         the settings file, its sort order and the feature switches\n"
@@ -63,6 +68,7 @@ const std::map<QString, Command> Commands = {
     {QStringLiteral("folders"), {runFoldersCommand, 0, 0, {}}},
     {QStringLiteral("type"), {runTypeCommand, 1, INT_MAX, {}}},
     {QStringLiteral("ls"), {runLsCommand, 0, 1, {"png"}}},
+    {QStringLiteral("path"), {runPathCommand, 1, INT_MAX, {}}},
     {QStringLiteral("open"), {runOpenCommand, 1, INT_MAX, {"type", "normal", "install-arg"}}},
     {QStringLiteral("settings"), {runSettingsCommand, 0, 0, {}}},
 };

@@ -78,6 +78,11 @@
         <translation>Designs</translation>
     </message>
     <message>
+        <source>Letters</source>
+        <comment>folder name</comment>
+        <translation>Briefe</translation>
+    </message>
+    <message>
         <source>Preloaded</source>
         <comment>preload root</comment>
         <translation>Vorinstalliert</translation>

@@ -4,10 +4,18 @@
 
 #include "kivtambro_export.h"
 
+#include <QDateTime>
 #include <QPixmap>
 #include <QString>
 
 class AM_MimeRegistry;
+
+// What getNum counted: regular files, then folders.
+struct TAMBRO_ITEM_COUNT
+{
+    quint32 files = 0;
+    quint32 folders = 0;
+};
 
 // How a folder is shown in a listing.
 struct _TAMBRO_FOLDER_RES
@@ -135,6 +143,47 @@ public:
     static QString myPhoto(QString *name);
     static QString myVoice(QString *name);
     static QString myVideo(QString *name);
+
+    // --- Sizes, dates and durations, as text -------------------------------
+    //
+    // Sizes are written in bytes below 1024, else in KB or MB, never larger
+    // (1 GiB is "1024.0 MB"): MB as soon as the KB value rounded to the
+    // decimals asked would reach 1024. Bytes never get decimals.
+
+    // "3 files selected - Total 2.0 KB": the count, then the size with 1 decimal.
+    static QString getMultiSelectTitle(double size, unsigned count);
+    // "2.0 KB": the size with 1 decimal, as a details view shows it.
+    static QString getDetailViewSizeStr(double size);
+    // The size with the decimals asked.
+    static QString uintSizeToGbMbStr(double size, int decimals);
+    // "2007-03-05 09:04:00"; a year below 1000 is padded with blanks.
+    static QString convertDateTime(QDateTime dateTime);
+    // "mm:ss" below one hour, else "h...h:mm:ss", to the nearest second. A
+    // negative duration is taken as its unsigned 32-bit value.
+    static QString convertTime(int milliseconds);
+
+    // --- Disk and folder usage, from the file system on every call ----------
+    //
+    // The walks follow no symbolic link and count only what the folder
+    // listing reports as a regular file or a folder; folders more than 32
+    // levels deep (as getFolderLevel counts) are left out.
+
+    // The space of the storage holding the path (a preloaded folder's is the
+    // file manager's root's), in bytes. False, and both 0, when it cannot be
+    // asked.
+    static bool getDiskSize(const QString &path, double &available, double &total);
+    // The bytes of a file (32 bits, as QFileInfo's size is cut), or of all the
+    // regular files in a folder tree, hidden ones included; 0 for anything else.
+    static quint64 getSize(const QString &path);
+    // The visible files and folders in a folder, and with recursive in its
+    // whole tree; a folder's listing ends at its first subfolder that is too
+    // deep (counted, not entered). Zero counts for anything but a folder.
+    static TAMBRO_ITEM_COUNT getNum(const QString &path, bool recursive);
+    // True when the owner may not both read and write the path; false when it
+    // does not exist. Group, others and the effective user are not considered.
+    static bool isReadOnly(const QString &path);
+    // Lets everyone read, write and execute the path. Always true.
+    static bool chmodW(const QString &path);
 
     // --- Settings file and feature switches ---------------------------------
 

@@ -18,6 +18,52 @@
         <comment>MegaSIM</comment>
         <translation>MegaSIM</translation>
     </message>
+    <!-- Sizes: resource id, English text as comment. -->
+    <message>
+        <source>FMT_RID_AIA_1_FILES_SELECTED_TOTAL_2_B</source>
+        <comment>%1 files selected - Total %2 B</comment>
+        <translation>%1 files selected - Total %2 B</translation>
+    </message>
+    <message>
+        <source>FMT_RID_AIA_1_FILES_SELECTED_TOTAL_2_KB</source>
+        <comment>%1 files selected - Total %2 KB</comment>
+        <translation>%1 files selected - Total %2 KB</translation>
+    </message>
+    <message>
+        <source>FMT_RID_AIA_1_FILES_SELECTED_TOTAL_2_MB</source>
+        <comment>%1 files selected - Total %2 MB</comment>
+        <translation>%1 files selected - Total %2 MB</translation>
+    </message>
+    <message>
+        <source>FMT_RID_LIST_B_1_B</source>
+        <comment>%1 B</comment>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>FMT_RID_LIST_B_1_KB</source>
+        <comment>%1 KB</comment>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>FMT_RID_LIST_B_1_MB</source>
+        <comment>%1 MB</comment>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>FMT_RID_STANDARD_1_B</source>
+        <comment>%1 B</comment>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>FMT_RID_STANDARD_1_KB</source>
+        <comment>%1 KB</comment>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>FMT_RID_STANDARD_1_MB</source>
+        <comment>%1 MB</comment>
+        <translation>%1 MB</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

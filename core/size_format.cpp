@@ -1,0 +1,80 @@
+// Sizes as the phone writes them: bytes, kilobytes or megabytes (never more),
+// in the translated template of the operation.
+#include "TAMBRO_Global.h"
+
+#include "translation.h"
+
+#include <cmath>
+
+namespace {
+
+enum Unit { Bytes, KiloBytes, MegaBytes };
+
+struct Template
+{
+    const char *resourceId;
+    const char *english;
+};
+
+using Templates = Template[3]; // by unit
+
+constexpr Templates SelectionTitle = {
+    {"FMT_RID_AIA_1_FILES_SELECTED_TOTAL_2_B", "%1 files selected - Total %2 B"},
+    {"FMT_RID_AIA_1_FILES_SELECTED_TOTAL_2_KB", "%1 files selected - Total %2 KB"},
+    {"FMT_RID_AIA_1_FILES_SELECTED_TOTAL_2_MB", "%1 files selected - Total %2 MB"}};
+constexpr Templates DetailView = {{"FMT_RID_LIST_B_1_B", "%1 B"},
+                                  {"FMT_RID_LIST_B_1_KB", "%1 KB"},
+                                  {"FMT_RID_LIST_B_1_MB", "%1 MB"}};
+constexpr Templates Standard = {{"FMT_RID_STANDARD_1_B", "%1 B"},
+                                {"FMT_RID_STANDARD_1_KB", "%1 KB"},
+                                {"FMT_RID_STANDARD_1_MB", "%1 MB"}};
+
+struct Scaled
+{
+    QString number;
+    Unit unit;
+};
+
+// The unit is chosen by the value rounded to the decimals asked, so that a
+// size that would read 1024.0 KB reads 1.0 MB; the text is written from the
+// unrounded value. A NaN size is no byte count and takes the kilobyte path.
+Scaled formatWithUnit(double size, int decimals)
+{
+    if (size < 1024.0)
+        return {QString::number(size, 'f', 0), Bytes};
+    const double kilo = size * 0.0009765625;
+    const double scale = std::pow(10.0, decimals);
+    const double rounded = std::floor(kilo * scale + 0.5) / scale;
+    if (rounded >= 1024.0)
+        return {QString::number(kilo * 0.0009765625, 'f', decimals), MegaBytes};
+    return {QString::number(kilo, 'f', decimals), KiloBytes};
+}
+
+QString templateFor(const Templates &templates, Unit unit)
+{
+    return Tambro::translate("TAMBRO_Global", templates[unit].resourceId, templates[unit].english);
+}
+
+QString sizeText(const Templates &templates, double size, int decimals)
+{
+    const Scaled scaled = formatWithUnit(size, decimals);
+    return templateFor(templates, scaled.unit).arg(scaled.number);
+}
+
+} // namespace
+
+QString TAMBRO_Global::getMultiSelectTitle(double size, unsigned count)
+{
+    const Scaled scaled = formatWithUnit(size, 1);
+    return templateFor(SelectionTitle, scaled.unit).arg(QString::number(count), scaled.number);
+}
+
+QString TAMBRO_Global::getDetailViewSizeStr(double size)
+{
+    return sizeText(DetailView, size, 1);
+}
+
+QString TAMBRO_Global::uintSizeToGbMbStr(double size, int decimals)
+{
+    return sizeText(Standard, size, decimals);
+}

@@ -1,0 +1,170 @@
+// Disk and folder usage on trees built by the test, on a bare phone.
+#include <TAMBRO_FixedFolder.h>
+#include <TAMBRO_Global.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr qint64 FiveGiB = 5LL << 30;
+
+void makeFile(const QString &path, qint64 size)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(size)); // sparse
+}
+
+struct Usage
+{
+    quint64 size;
+    quint32 files, folders, flatFiles, flatFolders;
+};
+
+} // namespace
+Q_DECLARE_METATYPE(Usage)
+
+class TestDiskUsage : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    int m_deepLevel = 0; // the level of the deep tree's top
+
+    QString path(const QString &relative) const { return m_dir.filePath(relative); }
+    QByteArray latin1Folder() const { return QFile::encodeName(path("mixed/")) + "caf\xe9"; }
+
+    // The deep tree: one folder per level down to level 32, each holding a
+    // byte (hidden in the last, which getNum's order must not matter for);
+    // the last holds two too-deep folders, one going on to 40.
+    void makeDeepTree()
+    {
+        m_deepLevel = TAMBRO_Global::getFolderLevel(path("deep"));
+        QString folder = path("deep");
+        for (int level = m_deepLevel; level < 32; ++level, folder += "/d") {
+            QVERIFY(QDir().mkpath(folder));
+            makeFile(folder + "/f", 1);
+        }
+        QVERIFY(QDir().mkpath(folder + "/y"));
+        makeFile(folder + "/.f", 1);
+        for (int level = 33; level <= 40; ++level) {
+            folder += "/x";
+            QVERIFY(QDir().mkpath(folder));
+            if (level > 34)
+                makeFile(folder + "/f", 1);
+        }
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_dir.isValid());
+        QVERIFY(QDir().mkpath(path("mixed/sub")) && QDir().mkpath(path("mixed/.hiddendir")) && QDir().mkpath(path("big")));
+        makeFile(path("mixed/a.txt"), 10);
+        makeFile(path("mixed/.hidden"), 100);
+        makeFile(path("mixed/.hiddendir/x"), 1000);
+        makeFile(path("mixed/sub/b"), 5);
+        QVERIFY(QFile::link("a.txt", path("mixed/link")) && QFile::link("sub", path("mixed/dirlink"))
+                && QFile::link(".", path("mixed/loop")));
+        QCOMPARE(mkfifo(QFile::encodeName(path("mixed/fifo")).constData(), 0644), 0);
+        // Such names do not survive decoding: made and removed by their bytes.
+        QCOMPARE(mkdir(latin1Folder().constData(), 0755), 0);
+        const int fd = open((latin1Folder() + "/c").constData(), O_WRONLY | O_CREAT, 0644);
+        QVERIFY(fd >= 0 && ftruncate(fd, 7) == 0 && close(fd) == 0);
+        makeFile(path("big/huge"), FiveGiB);
+        makeDeepTree();
+    }
+
+    void cleanupTestCase()
+    {
+        unlink((latin1Folder() + "/c").constData());
+        rmdir(latin1Folder().constData());
+    }
+
+    void usage_data()
+    {
+        QTest::addColumn<QString>("relative");
+        QTest::addColumn<Usage>("usage");
+
+        const quint32 chain = 32 - m_deepLevel; // folders below the top down to level 32
+        QTest::newRow("hidden bytes counted, hidden names not; links, FIFO, other bytes")
+            << "mixed" << Usage{1122, 3, 2, 1, 2};
+        QTest::newRow("a file: its size, no counts") << "mixed/a.txt" << Usage{10, 0, 0, 0, 0};
+        QTest::newRow("a FIFO") << "mixed/fifo" << Usage{0, 0, 0, 0, 0};
+        QTest::newRow("missing") << "none" << Usage{0, 0, 0, 0, 0};
+        QTest::newRow("large file: 64 bits inside a folder") << "big" << Usage{quint64(FiveGiB), 1, 0, 1, 0};
+        QTest::newRow("large file alone: cut to 32 bits") << "big/huge" << Usage{quint64(FiveGiB) & 0xffffffffu, 0, 0, 0, 0};
+        QTest::newRow("too-deep folders left out; listing ends at the first")
+            << "deep" << Usage{chain + 1, chain, chain + 1, 1, 1};
+        QTest::newRow("a too-deep folder itself: its subfolders left out")
+            << QString("deep" + QString("/d").repeated(chain) + "/x") << Usage{0, 0, 1, 0, 1};
+        QTest::newRow("a tree of links to itself") << "mixed/dirlink" << Usage{5, 1, 0, 1, 0};
+    }
+
+    void usage()
+    {
+        QFETCH(QString, relative);
+        QFETCH(Usage, usage);
+        const QString target = path(relative);
+        QCOMPARE(TAMBRO_Global::getSize(target), usage.size);
+        const TAMBRO_ITEM_COUNT all = TAMBRO_Global::getNum(target, true);
+        const TAMBRO_ITEM_COUNT flat = TAMBRO_Global::getNum(target, false);
+        QCOMPARE((QList<quint32>{all.files, all.folders, flat.files, flat.folders}),
+                 (QList<quint32>{usage.files, usage.folders, usage.flatFiles, usage.flatFolders}));
+    }
+
+    void diskSize()
+    {
+        double available = -1;
+        double total = -1;
+        QVERIFY(!TAMBRO_Global::getDiskSize(path("none"), available, total));
+        QCOMPARE(available + total, 0.0);
+
+        QVERIFY(QDir().mkpath(TAMBRO_FixedFolder::m_sFMRootPath));
+        double rootAvailable = 0;
+        double rootTotal = 0;
+        QVERIFY(TAMBRO_Global::getDiskSize(TAMBRO_FixedFolder::m_sFMRootPath, rootAvailable, rootTotal));
+        QCOMPARE(rootTotal, 4.0 * 1024 * 1024); // the bare phone's memory
+        // Preloaded folders are measured at the root, present or not.
+        QVERIFY(TAMBRO_Global::getDiskSize("/usr/data_resource/none", available, total));
+        QCOMPARE(total, rootTotal);
+        QVERIFY(available <= total);
+    }
+
+    void permissions_data()
+    {
+        QTest::addColumn<int>("mode"); // -1: missing
+        QTest::addColumn<bool>("readOnly");
+
+        QTest::newRow("read only") << 0444 << true;
+        QTest::newRow("owner reads and writes") << 0644 << false;
+        QTest::newRow("write only") << 0200 << true;
+        QTest::newRow("others' bits not looked at") << 0066 << true;
+        QTest::newRow("missing") << -1 << false;
+    }
+
+    void permissions()
+    {
+        QFETCH(int, mode);
+        QFETCH(bool, readOnly);
+        const QString file = path(QString("mode-%1").arg(mode));
+        if (mode >= 0) {
+            makeFile(file, 0);
+            QCOMPARE(chmod(QFile::encodeName(file).constData(), mode), 0);
+        }
+        QCOMPARE(TAMBRO_Global::isReadOnly(file), readOnly);
+        QVERIFY(TAMBRO_Global::chmodW(file));
+        QCOMPARE(TAMBRO_Global::isReadOnly(file), false);
+        if (mode >= 0)
+            QCOMPARE(QFileInfo(file).permissions() & 0x7777, QFileDevice::Permissions(0x7777));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDiskUsage)
+#include "tst_disk_usage.moc"

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Sets up a fresh Debian 12 machine and builds libkivtambro-base.
 #
-#   ./build.sh demo   build, then show the sample phone's storage and folders with tambro
+#   ./build.sh demo   build, then show the sample phone's storage, folders and usage with tambro
 #   ./build.sh test   build, then run every test, also under ASan and UBSan,
 #                     then fuzz the file readers with clang's libFuzzer
 #   ./build.sh coverage
@@ -102,6 +102,8 @@ demo)
     build/tools/kivsim/kivsim -- build/tools/tambro/tambro storage
     echo
     build/tools/kivsim/kivsim -- build/tools/tambro/tambro folders
+    echo
+    build/tools/kivsim/kivsim -- build/tools/tambro/tambro du /kivlocal/download/tambro
     ;;
 test)
     install_missing_packages

@@ -35,7 +35,8 @@ dir = icons')
     ln -s /dev/zero "$device/tambro/kiv_tambrostruct.cfg"
     mkfifo "$device/icons/fm_folder_small.gif"
     on '"$TAMBRO" storage && "$TAMBRO" folders && "$TAMBRO" ls --png /tmp/a.png &&
-        KIVSIM_DEVICE=/dev/zero "$TAMBRO" type a.mp3' >/dev/null
+        KIVSIM_DEVICE=/dev/zero "$TAMBRO" type a.mp3 && mkfifo /tmp/f && ln -s /tmp/f /tmp/l &&
+        "$TAMBRO" du /tmp/f /tmp/l /dev/zero' >/dev/null
     local status=$?
     [ $status -eq 0 ] || fail "special files: exit status $status: $(cat "$work/stderr")"
     for what in "mount table /etc/mtab is a FIFO" "kiv_tambrostruct.cfg: cannot read: is a device" \

@@ -67,6 +67,7 @@ private Q_SLOTS:
         QCOMPARE(partitions.at(0)["path"].toString(), "/kivlocal/download/tambro");
         QCOMPARE(partitions.at(1)["kind"].toString(), "megasim");
         QCOMPARE(partitions.at(2)["label"].toString(), "KIVCARD");
+        QCOMPARE(partitions.at(2)["totalText"].toString(), "64.0 MB");
     }
 
     void foldersShowKeyWordsPreloadedFoldersAndTranslations()
@@ -106,6 +107,9 @@ private Q_SLOTS:
             names << entry["name"].toString();
         QCOMPARE(names, (QStringList{"camera", "pic", "banner.bmp", "flowers.jpeg", "holiday.jpg", "logo.png",
                                      "operator.wbmp", "smiley.gif", "sunset.JPG"}));
+        const QJsonValue banner = picture["entries"][2];
+        QCOMPARE(banner["sizeText"].toString() + ' ' + QString::number(banner["size"].toInt()), "102 B 102");
+        QVERIFY(QRegularExpression("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d$").match(banner["modified"].toString()).hasMatch());
         const QJsonArray root = tambro({"ls", "--json"}).json()["entries"].toArray();
         QStringList tail;
         for (qsizetype i = 8; i < root.size(); ++i)
@@ -121,6 +125,19 @@ private Q_SLOTS:
         QCOMPARE(paths.at(0)["partition"].toInt(), 3);
         QCOMPARE(paths.at(1)["parentName"].toString(), "Pictures");
         QCOMPARE(paths.at(1)["partition"].toInt(), -4);
+    }
+
+    // Present paths reported, a missing one said and left out of the title.
+    void duShowsUsageAndTheSelectionTitle()
+    {
+        const Run run = tambro({"du", "--json", "/kivlocal/download/tambro/picture", "/none", "/usr/data_resource/pic"});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(run.err.contains("'/none'"));
+        const QJsonValue report = run.json();
+        QCOMPARE(report["selectionTitle"].toString(), "2 files selected - Total 2.8 KB");
+        const QJsonValue preloaded = report["paths"][1];
+        QCOMPARE(preloaded["files"].toInt(), 2);
+        QCOMPARE(preloaded["totalText"].toString(), "32.0 MB"); // the phone memory's
     }
 
     void lsDrawsThePhoneScreen()
@@ -156,7 +173,12 @@ private Q_SLOTS:
 
         QTest::newRow("help") << QStringList{"--help"} << 0 << "Usage: tambro";
         QTest::newRow("no command") << QStringList() << 2 << "no command given";
-        QTest::newRow("unknown command") << QStringList{"format"} << 2 << "unknown command 'format'";
+        QTest::newRow("unknown command") << QStringList{"du2"} << 2 << "unknown command 'du2'";
+        QTest::newRow("format: a size in any unit") << QStringList{"format", "--size", "1048535", "--decimals", "2"} << 0 << "1023.96 KB";
+        QTest::newRow("format: nothing to write") << QStringList{"format"} << 2 << "needs --size, --date or --duration";
+        QTest::newRow("format: a size that is no number") << QStringList{"format", "--size", "12k"} << 2 << "not '12k'";
+        QTest::newRow("format: decimals out of range") << QStringList{"format", "--size", "1", "--decimals", "-1"} << 2 << "0 to 99";
+        QTest::newRow("format: no date") << QStringList{"format", "--date", "yesterday"} << 2 << "not 'yesterday'";
         QTest::newRow("extra argument") << QStringList{"storage", "now"} << 2 << "unexpected argument 'now'";
         QTest::newRow("png for a command that does not draw") << QStringList{"storage", "--png", "x"} << 2 << "does not take --png";
         QTest::newRow("empty folder name") << QStringList{"ls", ""} << 2 << "empty argument";

@@ -5,6 +5,7 @@
 #include <TAMBRO_FixedFolder.h>
 #include <TAMBRO_Global.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
@@ -26,15 +27,28 @@ ListedEntry folderEntry(const QString &path, const QString &name, ListedEntry::K
     res.bigIcon = QStringLiteral("fm_folder_thb.gif");
     res.smallIcon = QStringLiteral("fm_folder_small.gif");
     TAMBRO_Global::getFolderRes(path, res, false);
-    return {name, QByteArray(), res.displayName, kind, res.bigIcon, res.smallIcon};
+    ListedEntry entry;
+    entry.name = name;
+    entry.shownAs = res.displayName;
+    entry.kind = kind;
+    entry.bigIcon = res.bigIcon;
+    entry.smallIcon = res.smallIcon;
+    return entry;
 }
 
 ListedEntry fileEntry(const QString &path, const DiskEntry &entry)
 {
     QString shownAs = TAMBRO_Global::getShortName(path);
     TAMBRO_FixedFolder::trPreloadFile(path, shownAs, true);
-    return {entry.name, bytesUnlessText(entry), shownAs, ListedEntry::File,
-            TAMBRO_Global::getFileIconByType(path, true), TAMBRO_Global::getFileIconByType(path, false)};
+    return {entry.name,
+            bytesUnlessText(entry),
+            shownAs,
+            ListedEntry::File,
+            TAMBRO_Global::getFileIconByType(path, true),
+            TAMBRO_Global::getFileIconByType(path, false),
+            entry.size,
+            TAMBRO_Global::getDetailViewSizeStr(double(entry.size)),
+            TAMBRO_Global::convertDateTime(QDateTime::fromSecsSinceEpoch(entry.modified))};
 }
 
 void sortByName(QList<ListedEntry> &entries)

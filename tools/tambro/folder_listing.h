@@ -18,6 +18,10 @@ struct ListedEntry
     Kind kind = File;
     QString bigIcon;
     QString smallIcon;
+    // Files only: the size in bytes and as the list shows it, and the modification date.
+    qint64 size = -1;
+    QString sizeText;
+    QString modified;
 };
 
 struct FolderListing

@@ -10,10 +10,18 @@
 
 namespace {
 
-bool isFolderAt(int folder, const char *name)
+// What a link leads to; a dangling link is an empty file.
+DiskEntry entryAt(int folder, const char *name)
 {
+    const QByteArray bytes(name);
+    DiskEntry entry{bytes, QFile::decodeName(bytes)};
     struct stat info;
-    return ::fstatat(folder, name, &info, 0) == 0 && S_ISDIR(info.st_mode);
+    if (::fstatat(folder, name, &info, 0) == 0) {
+        entry.isFolder = S_ISDIR(info.st_mode);
+        entry.size = info.st_size;
+        entry.modified = info.st_mtim.tv_sec;
+    }
+    return entry;
 }
 
 } // namespace
@@ -29,8 +37,7 @@ std::optional<QList<DiskEntry>> readFolder(const QString &folder)
     while (const dirent *entry = ::readdir(dir)) {
         if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0)
             continue;
-        const QByteArray name(entry->d_name);
-        entries.append({name, QFile::decodeName(name), isFolderAt(::dirfd(dir), entry->d_name)});
+        entries.append(entryAt(::dirfd(dir), entry->d_name));
     }
     ::closedir(dir);
     return entries;

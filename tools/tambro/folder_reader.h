@@ -13,6 +13,8 @@ struct DiskEntry
     QByteArray nameBytes;
     QString name; // bytes that are not UTF-8 show as replacement characters
     bool isFolder = false; // a folder or a link to one
+    qint64 size = 0; // of what a link leads to
+    qint64 modified = 0; // seconds since the epoch
 
     // Whether name holds exactly the bytes, so that a report may leave them out.
     bool nameIsText() const { return name.toUtf8() == nameBytes; }

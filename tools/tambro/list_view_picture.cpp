@@ -19,6 +19,7 @@ const QColor TitleBackground(0x2b, 0x4c, 0x7e);
 const QColor RowBackground(Qt::white);
 const QColor AlternateRowBackground(0xee, 0xf2, 0xf8);
 const QColor Separator(0xd0, 0xd8, 0xe4);
+const QColor SizeText(0x55, 0x5f, 0x6d);
 
 void drawTitle(QPainter &painter, const QString &title)
 {
@@ -44,8 +45,12 @@ void drawRow(QPainter &painter, int top, int index, const ListedEntry &entry)
     const QRect iconArea(Margin, top + (RowHeight - IconSize) / 2, IconSize, IconSize);
     if (!icon.isNull())
         painter.drawPixmap(iconArea, icon);
-    const QRect textArea(iconArea.right() + 1 + Margin, top,
-                         ScreenWidth - iconArea.right() - 1 - 2 * Margin, RowHeight);
+    QRect textArea(iconArea.right() + 1 + Margin, top, ScreenWidth - iconArea.right() - 1 - 2 * Margin, RowHeight);
+    if (!entry.sizeText.isEmpty()) { // right-aligned, the name gives way to it
+        painter.setPen(SizeText);
+        painter.drawText(textArea, Qt::AlignVCenter | Qt::AlignRight, entry.sizeText);
+        textArea.setRight(textArea.right() - painter.fontMetrics().horizontalAdvance(entry.sizeText) - Margin);
+    }
     painter.setPen(Qt::black);
     painter.drawText(textArea, Qt::AlignVCenter | Qt::AlignLeft,
                      painter.fontMetrics().elidedText(entry.shownAs, Qt::ElideRight, textArea.width()));

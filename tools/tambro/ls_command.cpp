@@ -42,6 +42,11 @@ QJsonObject toJson(const QString &folder, const FolderListing &listing)
         };
         if (!entry.nameBytes.isEmpty())
             object.insert(QStringLiteral("nameBytes"), jsonBytes(entry.nameBytes));
+        if (entry.kind == ListedEntry::File) {
+            object.insert(QStringLiteral("size"), entry.size);
+            object.insert(QStringLiteral("sizeText"), entry.sizeText);
+            object.insert(QStringLiteral("modified"), entry.modified);
+        }
         entries.append(object);
     }
     return QJsonObject{{QStringLiteral("folder"), folder},
@@ -52,11 +57,12 @@ QJsonObject toJson(const QString &folder, const FolderListing &listing)
 QString textTable(const QJsonObject &listing)
 {
     TextTable table({QStringLiteral("KIND"), QStringLiteral("NAME"), QStringLiteral("SHOWN AS"),
-                     QStringLiteral("SMALL ICON"), QStringLiteral("BIG ICON")});
+                     QStringLiteral("SIZE"), QStringLiteral("MODIFIED"), QStringLiteral("SMALL ICON"),
+                     QStringLiteral("BIG ICON")});
     for (const QJsonValue &value : listing[QStringLiteral("entries")].toArray()) {
         const QJsonObject entry = value.toObject();
         QStringList row;
-        for (const char *field : {"kind", "name", "shownAs", "smallIcon", "bigIcon"})
+        for (const char *field : {"kind", "name", "shownAs", "sizeText", "modified", "smallIcon", "bigIcon"})
             row << entry[QLatin1String(field)].toString();
         table.addRow(row);
     }

@@ -1,5 +1,7 @@
 // tambro: asks the file manager's base library about the phone it runs on.
+#include "du_command.h"
 #include "folders_command.h"
+#include "format_command.h"
 #include "ls_command.h"
 #include "open_command.h"
 #include "output.h"
@@ -33,6 +35,10 @@ const char Usage[] = "Usage: tambro COMMAND [OPTIONS] [ARGUMENTS]\n"
                      "                   files, each with its icons (default: the root)\n"
                      "  path PATH...     each path's location line, parent, short name, level,\n"
                      "                   partition, fixed subfolders and invisible links\n"
+                     "  du PATH...       each path's size, its files and folders (in its whole\n"
+                     "                   tree and directly), its storage's free and total space,\n"
+                     "                   whether it is read-only; the selection title of them all\n"
+                     "  format           writes sizes, dates and durations as the phone does\n"
                      "  open FILE...     opens each file as the file manager does and shows the\n"
                      "                   requests that reached the phone's applications\n"
                      "  settings         the settings file, its sort order and the feature switches\n"
@@ -44,6 +50,11 @@ const char Usage[] = "Usage: tambro COMMAND [OPTIONS] [ARGUMENTS]\n"
                      "                   extension in lower case)\n"
                      "  --normal         open: pictures in the viewer's normal view, not its preview\n"
                      "  --install-arg N  open: the number handed to the Java installer (default 0)\n"
+                     "  --size N         format: a size in bytes (as often as wanted)\n"
+                     "  --decimals D     format: the sizes with D decimals, 0 to 99 (default: as\n"
+                     "                   the details view, 1)\n"
+                     "  --date ISO       format: a date and time, such as 2007-03-05T09:04:00\n"
+                     "  --duration MS    format: a duration in milliseconds\n"
                      "  -h, --help       print this help\n";
 
 // Without a display the tool still needs an application object for pixmaps
@@ -61,6 +72,7 @@ struct Command
     int minArguments;
     int maxArguments;
     QStringList options; // the command's own options
+    QString (*checkValues)(const Request &request) = nullptr; // why its values do not parse
 };
 
 const std::map<QString, Command> Commands = {
@@ -71,8 +83,10 @@ const std::map<QString, Command> Commands = {
     {QStringLiteral("path"), {runPathCommand, 1, INT_MAX, {}}},
     {QStringLiteral("open"), {runOpenCommand, 1, INT_MAX, {"type", "normal", "install-arg"}}},
     {QStringLiteral("settings"), {runSettingsCommand, 0, 0, {}}},
+    {QStringLiteral("du"), {runDuCommand, 1, INT_MAX, {}}},
+    {QStringLiteral("format"), {runFormatCommand, 0, 0, {"size", "decimals", "date", "duration"}, formatMisuse}},
 };
-const QStringList CommandOptions = {"png", "type", "normal", "install-arg"};
+const QStringList CommandOptions = {"png", "type", "normal", "install-arg", "size", "decimals", "date", "duration"};
 
 int usageError(const QString &why)
 {
@@ -98,7 +112,7 @@ QString misuse(const QString &name, const Command &command, const Request &reque
         return QStringLiteral("an empty argument names nothing");
     if (!request.png.isNull() && request.json)
         return QStringLiteral("--png and --json do not go together");
-    return QString();
+    return command.checkValues ? command.checkValues(request) : QString();
 }
 
 // The user's arguments, read before Qt sees any: QGuiApplication would take
@@ -120,8 +134,12 @@ int run(const QStringList &arguments, QTextStream &out)
     const QCommandLineOption type(QStringLiteral("type"), QString(), QStringLiteral("TYPE"));
     const QCommandLineOption normal(QStringLiteral("normal"));
     const QCommandLineOption installArgument(QStringLiteral("install-arg"), QString(), QStringLiteral("N"));
+    const QCommandLineOption size(QStringLiteral("size"), QString(), QStringLiteral("N"));
+    const QCommandLineOption decimals(QStringLiteral("decimals"), QString(), QStringLiteral("D"));
+    const QCommandLineOption date(QStringLiteral("date"), QString(), QStringLiteral("ISO"));
+    const QCommandLineOption duration(QStringLiteral("duration"), QString(), QStringLiteral("MS"));
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
-    parser.addOptions({json, png, type, normal, installArgument, help});
+    parser.addOptions({json, png, type, normal, installArgument, size, decimals, date, duration, help});
     if (!parser.parse(arguments))
         return usageError(parser.errorText());
 
@@ -146,7 +164,9 @@ int run(const QStringList &arguments, QTextStream &out)
                           parser.isSet(png) ? parser.value(png) : QString(),
                           parser.isSet(type) ? parser.value(type) : QString(),
                           parser.isSet(normal),
-                          installNumber};
+                          installNumber,
+                          {parser.values(size), parser.isSet(decimals) ? parser.value(decimals) : QString(),
+                           parser.values(date), parser.values(duration)}};
     const QString why = misuse(command->first, command->second, request, parser.optionNames());
     if (!why.isEmpty())
         return usageError(why);

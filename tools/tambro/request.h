@@ -7,6 +7,15 @@
 #include <QStringList>
 #include <QTextStream>
 
+// The values tambro format writes, as given.
+struct FormatValues
+{
+    QStringList sizes;
+    QString decimals; // null when not given
+    QStringList dates;
+    QStringList durations;
+};
+
 struct Request
 {
     QStringList arguments; // after the command word
@@ -15,6 +24,7 @@ struct Request
     QString type; // --type TYPE of open: the caller's type string; null for the extension
     bool normal = false; // --normal of open: the image viewer's normal view
     int installArgument = 0; // --install-arg N of open
+    FormatValues format;
 };
 
 // A name's bytes, for names that are not UTF-8 and so cannot be given whole

@@ -1,5 +1,6 @@
 #include "storage_command.h"
 
+#include "disk_space.h"
 #include "text_table.h"
 
 #include <TAMBRO_Global.h>
@@ -36,7 +37,8 @@ QString statusName(int parti)
 
 QJsonObject partitionObject(int parti)
 {
-    return QJsonObject{
+    QJsonObject partition = diskSpace(TAMBRO_Global::getPartiName(parti));
+    const QJsonObject facts{
         {QStringLiteral("number"), parti},
         {QStringLiteral("kind"), kindName(TAMBRO_Global::getDeviceCardType(parti))},
         {QStringLiteral("name"), TAMBRO_Global::getPartiShortName(parti)},
@@ -47,6 +49,9 @@ QJsonObject partitionObject(int parti)
         {QStringLiteral("writeProtected"), TAMBRO_Global::writeProtected(parti)},
         {QStringLiteral("locked"), TAMBRO_Global::isCardLocked(parti)},
     };
+    for (auto it = facts.begin(); it != facts.end(); ++it)
+        partition.insert(it.key(), it.value());
+    return partition;
 }
 
 QString yesNo(bool value)
@@ -58,7 +63,8 @@ QString textTable(const QJsonArray &partitions)
 {
     TextTable table({QStringLiteral("#"), QStringLiteral("KIND"), QStringLiteral("NAME"),
                      QStringLiteral("LABEL"), QStringLiteral("DEVICE"), QStringLiteral("PATH"),
-                     QStringLiteral("STATUS"), QStringLiteral("WP"), QStringLiteral("LOCKED")});
+                     QStringLiteral("STATUS"), QStringLiteral("WP"), QStringLiteral("LOCKED"),
+                     QStringLiteral("FREE"), QStringLiteral("TOTAL")});
     for (const QJsonValue &value : partitions) {
         const QJsonObject p = value.toObject();
         const QString path = p[QStringLiteral("path")].toString();
@@ -68,7 +74,9 @@ QString textTable(const QJsonArray &partitions)
                       path.isEmpty() ? QStringLiteral("-") : path,
                       p[QStringLiteral("status")].toString(),
                       yesNo(p[QStringLiteral("writeProtected")].toBool()),
-                      yesNo(p[QStringLiteral("locked")].toBool())});
+                      yesNo(p[QStringLiteral("locked")].toBool()),
+                      p[QStringLiteral("availableText")].toString(),
+                      p[QStringLiteral("totalText")].toString()});
     }
     return table.toString();
 }

@@ -3,7 +3,7 @@
 #
 #   ./build.sh demo   build, then show the sample phone's storage, folders and usage with tambro
 #   ./build.sh test   build, then run every test, also under ASan and UBSan,
-#                     then fuzz the file readers with clang's libFuzzer
+#                     then fuzz the file readers and the user's input with clang's libFuzzer
 #   ./build.sh coverage
 #                     build with gcov, run every test, and write a coverage
 #                     report with a summary per folder to build-coverage/report
@@ -45,7 +45,7 @@ run_tests() {
 # instrumented: the rest is covered above.
 build_fuzz_targets() {
     CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DKIVTAMBRO_FUZZ=ON >/dev/null
-    cmake --build build-fuzz --target config_fuzz mount_table_fuzz
+    cmake --build build-fuzz --target config_fuzz mount_table_fuzz validator_fuzz recipient_fuzz filter_fuzz
 }
 
 # fuzz TARGET LIBFUZZER-OPTION...: fuzzes on a scratch copy of the target's
@@ -116,6 +116,9 @@ test)
     build_fuzz_targets
     fuzz config_fuzz -max_total_time=60
     fuzz mount_table_fuzz -max_total_time=30
+    fuzz validator_fuzz -max_total_time=30
+    fuzz recipient_fuzz -max_total_time=15
+    fuzz filter_fuzz -max_total_time=30
     ;;
 coverage)
     packages="$packages gcovr"

@@ -1,5 +1,7 @@
 // Configuration files: any bytes parse, and ZConfig, reading them as a file,
 // answers every look-up as the parse says.
+#include "fuzz_input.h"
+
 #include "ZConfig.h"
 #include "keyfile.h"
 
@@ -10,14 +12,6 @@
 #include <unistd.h>
 
 namespace {
-
-void check(bool condition, const char *what)
-{
-    if (!condition) {
-        std::fprintf(stderr, "config_fuzz: %s\n", what);
-        std::abort();
-    }
-}
 
 // The input as a file that lives in memory, so that millions of runs do not touch the disk.
 const QString &asFile(const uint8_t *data, size_t size)

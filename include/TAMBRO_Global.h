@@ -185,6 +185,14 @@ public:
     // Lets everyone read, write and execute the path. Always true.
     static bool chmodW(const QString &path);
 
+    // --- Recipients ------------------------------------------------------------
+
+    // Could be a phone number: digits 0-9, "-", a "+" first only and "."
+    // anywhere but last; the empty text too.
+    static bool isMobile(QString text);
+    // Could be an e-mail address: exactly one "@", neither first nor last.
+    static bool isEmail(QString text);
+
     // --- Settings file and feature switches ---------------------------------
 
     // The file manager's settings file, "setup/kiv_tambro.cfg" under

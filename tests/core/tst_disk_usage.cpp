@@ -65,11 +65,11 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(m_dir.isValid());
-        QVERIFY(QDir().mkpath(path("mixed/sub")) && QDir().mkpath(path("mixed/.hiddendir")) && QDir().mkpath(path("big")));
-        makeFile(path("mixed/a.txt"), 10);
-        makeFile(path("mixed/.hidden"), 100);
-        makeFile(path("mixed/.hiddendir/x"), 1000);
-        makeFile(path("mixed/sub/b"), 5);
+        for (const auto &[file, size] : {std::pair{"mixed/a.txt", 10}, {"mixed/.hidden", 100},
+                                         {"mixed/.hiddendir/x", 1000}, {"mixed/sub/b", 5}}) {
+            QVERIFY(QDir().mkpath(QFileInfo(path(file)).path()));
+            makeFile(path(file), size);
+        }
         QVERIFY(QFile::link("a.txt", path("mixed/link")) && QFile::link("sub", path("mixed/dirlink"))
                 && QFile::link(".", path("mixed/loop")));
         QCOMPARE(mkfifo(QFile::encodeName(path("mixed/fifo")).constData(), 0644), 0);
@@ -77,6 +77,7 @@ private Q_SLOTS:
         QCOMPARE(mkdir(latin1Folder().constData(), 0755), 0);
         const int fd = open((latin1Folder() + "/c").constData(), O_WRONLY | O_CREAT, 0644);
         QVERIFY(fd >= 0 && ftruncate(fd, 7) == 0 && close(fd) == 0);
+        QVERIFY(QDir().mkpath(path("big")));
         makeFile(path("big/huge"), FiveGiB);
         makeDeepTree();
     }

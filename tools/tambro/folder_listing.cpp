@@ -2,6 +2,7 @@
 
 #include "folder_reader.h"
 
+#include <TAMBRO_File_Filter.h>
 #include <TAMBRO_FixedFolder.h>
 #include <TAMBRO_Global.h>
 
@@ -83,7 +84,7 @@ QStringList fixedSubfolders(const QString &folder)
     return paths;
 }
 
-std::optional<FolderListing> listFolder(const QString &folder)
+std::optional<FolderListing> listFolder(const QString &folder, const TAMBRO_File_Filter *filter)
 {
     const QString absolute = QDir::cleanPath(QDir(folder).absolutePath());
     // Before the folder is read: a user's folder may be renamed aside first.
@@ -104,7 +105,7 @@ std::optional<FolderListing> listFolder(const QString &folder)
         if (entry.isFolder) {
             folders << folderEntry(path, entry.name, ListedEntry::Folder);
             folders.last().nameBytes = bytesUnlessText(entry);
-        } else {
+        } else if (!filter || filter->match(path)) {
             files << fileEntry(path, entry);
         }
     }

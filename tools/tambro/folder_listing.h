@@ -32,8 +32,11 @@ struct FolderListing
     QList<ListedEntry> entries;
 };
 
-// Nothing when the folder cannot be read.
-std::optional<FolderListing> listFolder(const QString &folder);
+class TAMBRO_File_Filter;
+
+// Nothing when the folder cannot be read. With a filter, only the files it
+// passes (asked by path) are listed; folders always are.
+std::optional<FolderListing> listFolder(const QString &folder, const TAMBRO_File_Filter *filter = nullptr);
 
 // The folder's fixed subfolders' paths, in their order. The library may
 // rename a user's folder aside on the way.

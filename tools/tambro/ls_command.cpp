@@ -5,6 +5,7 @@
 #include "output.h"
 #include "text_table.h"
 
+#include <TAMBRO_File_Filter.h>
 #include <TAMBRO_FixedFolder.h>
 
 #include <QBuffer>
@@ -86,7 +87,26 @@ int writePicture(const QString &path, const FolderListing &listing)
     return 0;
 }
 
+// As a picker builds its filter: extensions in any case, patterns as wildcards.
+std::optional<TAMBRO_File_Filter> fileFilter(const Request &request)
+{
+    if (!request.filter.isNull())
+        return TAMBRO_File_Filter(request.filter, false, true);
+    if (!request.filterList.isNull())
+        return TAMBRO_File_Filter(request.filterList.split(u','), false, true);
+    if (request.ringTones)
+        return TAMBRO_File_Filter(TAMBRO_FILTER_RING_TONES, false, true);
+    return std::nullopt;
+}
+
 } // namespace
+
+QString lsMisuse(const Request &request)
+{
+    if (int(!request.filter.isNull()) + int(!request.filterList.isNull()) + int(request.ringTones) > 1)
+        return QStringLiteral("--filter, --filter-list and --ringtones do not go together");
+    return QString();
+}
 
 int runLsCommand(QTextStream &out, const Request &request)
 {
@@ -95,7 +115,8 @@ int runLsCommand(QTextStream &out, const Request &request)
         return fail(QStringLiteral("no folder given and TAMBRO_DATA_PATH is not set"));
     // As in the file manager, the fixed folders exist before the first listing.
     TAMBRO_FixedFolder::initialize();
-    const std::optional<FolderListing> listing = listFolder(folder);
+    const std::optional<TAMBRO_File_Filter> filter = fileFilter(request);
+    const std::optional<FolderListing> listing = listFolder(folder, filter ? &*filter : nullptr);
     if (!listing)
         return fail(QStringLiteral("cannot list '%1': not a readable folder").arg(folder));
     if (!request.png.isNull())

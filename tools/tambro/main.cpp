@@ -3,6 +3,7 @@
 #include "folders_command.h"
 #include "format_command.h"
 #include "ls_command.h"
+#include "name_command.h"
 #include "open_command.h"
 #include "output.h"
 #include "path_command.h"
@@ -33,6 +34,11 @@ const char Usage[] = "Usage: tambro COMMAND [OPTIONS] [ARGUMENTS]\n"
                      "                   location line: fixed subfolders in their order (at the\n"
                      "                   root then the card and the MegaSIM), other folders, then\n"
                      "                   files, each with its icons (default: the root)\n"
+                     "  name TEXT...     types each text into the file name field one keystroke\n"
+                     "                   at a time: the keystrokes refused and the name that results\n"
+                     "  recipient TEXT...\n"
+                     "                   whether each text could be a phone number, an e-mail\n"
+                     "                   address, both or neither\n"
                      "  path PATH...     each path's location line, parent, short name, level,\n"
                      "                   partition, fixed subfolders and invisible links\n"
                      "  du PATH...       each path's size, its files and folders (in its whole\n"
@@ -46,6 +52,10 @@ const char Usage[] = "Usage: tambro COMMAND [OPTIONS] [ARGUMENTS]\n"
                      "Options:\n"
                      "  --json           print JSON instead of a table\n"
                      "  --png FILE       ls: draw the listing as the phone shows it into FILE\n"
+                     "  --filter PATTERN ls: only the files of the pattern's extension (\"*.mp3\")\n"
+                     "  --filter-list P1,P2,...\n"
+                     "                   ls: only the files of the patterns' extensions\n"
+                     "  --ringtones      ls: only the files that may serve as ring tones\n"
                      "  --type TYPE      open: the type the file is opened as (default: its\n"
                      "                   extension in lower case)\n"
                      "  --normal         open: pictures in the viewer's normal view, not its preview\n"
@@ -79,14 +89,17 @@ const std::map<QString, Command> Commands = {
     {QStringLiteral("storage"), {runStorageCommand, 0, 0, {}}},
     {QStringLiteral("folders"), {runFoldersCommand, 0, 0, {}}},
     {QStringLiteral("type"), {runTypeCommand, 1, INT_MAX, {}}},
-    {QStringLiteral("ls"), {runLsCommand, 0, 1, {"png"}}},
+    {QStringLiteral("ls"), {runLsCommand, 0, 1, {"png", "filter", "filter-list", "ringtones"}, lsMisuse}},
+    {QStringLiteral("name"), {runNameCommand, 1, INT_MAX, {}}},
+    {QStringLiteral("recipient"), {runRecipientCommand, 1, INT_MAX, {}}},
     {QStringLiteral("path"), {runPathCommand, 1, INT_MAX, {}}},
     {QStringLiteral("open"), {runOpenCommand, 1, INT_MAX, {"type", "normal", "install-arg"}}},
     {QStringLiteral("settings"), {runSettingsCommand, 0, 0, {}}},
     {QStringLiteral("du"), {runDuCommand, 1, INT_MAX, {}}},
     {QStringLiteral("format"), {runFormatCommand, 0, 0, {"size", "decimals", "date", "duration"}, formatMisuse}},
 };
-const QStringList CommandOptions = {"png", "type", "normal", "install-arg", "size", "decimals", "date", "duration"};
+const QStringList CommandOptions = {"png",  "type",     "normal",   "install-arg", "size",     "decimals",
+                                    "date", "duration", "filter", "filter-list", "ringtones"};
 
 int usageError(const QString &why)
 {
@@ -138,8 +151,12 @@ int run(const QStringList &arguments, QTextStream &out)
     const QCommandLineOption decimals(QStringLiteral("decimals"), QString(), QStringLiteral("D"));
     const QCommandLineOption date(QStringLiteral("date"), QString(), QStringLiteral("ISO"));
     const QCommandLineOption duration(QStringLiteral("duration"), QString(), QStringLiteral("MS"));
+    const QCommandLineOption filter(QStringLiteral("filter"), QString(), QStringLiteral("PATTERN"));
+    const QCommandLineOption filterList(QStringLiteral("filter-list"), QString(), QStringLiteral("PATTERNS"));
+    const QCommandLineOption ringTones(QStringLiteral("ringtones"));
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
-    parser.addOptions({json, png, type, normal, installArgument, size, decimals, date, duration, help});
+    parser.addOptions({json, png, type, normal, installArgument, size, decimals, date, duration, filter, filterList,
+                       ringTones, help});
     if (!parser.parse(arguments))
         return usageError(parser.errorText());
 
@@ -166,7 +183,10 @@ int run(const QStringList &arguments, QTextStream &out)
                           parser.isSet(normal),
                           installNumber,
                           {parser.values(size), parser.isSet(decimals) ? parser.value(decimals) : QString(),
-                           parser.values(date), parser.values(duration)}};
+                           parser.values(date), parser.values(duration)},
+                          parser.isSet(filter) ? parser.value(filter) : QString(),
+                          parser.isSet(filterList) ? parser.value(filterList) : QString(),
+                          parser.isSet(ringTones)};
     const QString why = misuse(command->first, command->second, request, parser.optionNames());
     if (!why.isEmpty())
         return usageError(why);

@@ -25,6 +25,10 @@ struct Request
     bool normal = false; // --normal of open: the image viewer's normal view
     int installArgument = 0; // --install-arg N of open
     FormatValues format;
+    // ls: the files listed; null or false when not given
+    QString filter; // --filter PATTERN
+    QString filterList; // --filter-list P1,P2,...
+    bool ringTones = false; // --ringtones
 };
 
 // A name's bytes, for names that are not UTF-8 and so cannot be given whole

@@ -10,12 +10,12 @@
 
 #include <TAMBRO_Global.h>
 
+#include "listing_names.h"
 #include "types/icon_cache.h"
 
 #include <QFile>
 #include <QGuiApplication>
 #include <QMimeDatabase>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -26,32 +26,9 @@ namespace {
 
 constexpr int NameCount = 100000;
 
-// The sample phone's registry, with unlisted extensions answered by the
-// system's database.
-const QByteArray Device = "[registry]\nsystem = 1\n"
-                          "[mime]\nmp3 = audio/mpeg\njpg = image/jpeg\npng = image/png\n"
-                          "3gp = video/3gpp\nmp4 = video/mp4\namr = audio/amr\n"
-                          "txt = text/plain\nvcf = text/x-vcard\njar = application/java-archive\n"
-                          "[handlers]\naudio/* = com.kiv.player\nvideo/* = com.kiv.player\n"
-                          "image/* = com.kiv.viewer\ntxt = com.kiv.notepad\nvcf = com.kiv.contacts\n"
-                          "url = com.kiv.browser\n";
-
-// A phone's worth of names: mostly media, some documents, unknown types and
-// names without extension, in a fixed pseudo-random order.
 const std::vector<QString> &names()
 {
-    static const std::vector<QString> list = [] {
-        const char *extensions[] = {".mp3", ".jpg", ".JPG", ".png", ".3gp", ".mp4", ".amr",
-                                    ".txt", ".vcf", ".jar", ".url", ".xq7", ".dat", ""};
-        QRandomGenerator random(20261121);
-        std::vector<QString> result;
-        result.reserve(NameCount);
-        for (int i = 0; i < NameCount; ++i) {
-            const char *extension = extensions[random.bounded(int(std::size(extensions)))];
-            result.push_back(QStringLiteral("file %1").arg(i) + QLatin1String(extension));
-        }
-        return result;
-    }();
+    static const std::vector<QString> list = listingNames(NameCount);
     return list;
 }
 
@@ -133,13 +110,7 @@ BENCHMARK(cachedIcon);
 int main(int argc, char **argv)
 {
     QTemporaryDir folder;
-    const QString devicePath = folder.filePath(QStringLiteral("device.ini"));
-    QFile device(devicePath);
-    if (!device.open(QIODevice::WriteOnly) || device.write(Device) != Device.size())
-        qFatal("cannot write the benchmark's device file");
-    device.close();
-    qputenv("KIVSIM_DEVICE", QFile::encodeName(devicePath));
-    qunsetenv("KIVSIM_JOURNAL");
+    useBenchmarkDevice(folder);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv); // pictures need one
 

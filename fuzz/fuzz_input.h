@@ -19,6 +19,7 @@ inline void check(bool condition, const char *what)
 inline QString utf16Text(const uint8_t *data, size_t size)
 {
     QString text(qsizetype(size / 2), Qt::Uninitialized);
-    std::memcpy(text.data(), data, size / 2 * 2);
+    if (size >= 2) // an empty input may come as a null pointer
+        std::memcpy(text.data(), data, size / 2 * 2);
     return text;
 }

@@ -95,6 +95,19 @@ EOF
     echo "Coverage report: $report/index.html"
 }
 
+# Draws the example file manager on the sample phone under an X server of its
+# own, into pictures a newcomer without a display can look at.
+show_file_manager() {
+    pictures=$PWD/build/examples/pictures
+    mkdir -p "$pictures"
+    xvfb-run -a -s "-ac -screen 0 640x480x24" build/tools/kivsim/kivsim --share "$pictures" -- \
+        env -u XAUTHORITY QT_QPA_PLATFORM=xcb FILEMANAGER_PICTURES="$pictures" \
+        build/examples/filemanager/tests/tst_filemanager_screens >/dev/null
+    echo
+    echo "The example file manager, as the sample phone shows it: $pictures"
+    echo "  root.png, folder-list.png, folder-grid.png, details.png, notice.png"
+}
+
 case "${1:-}" in
 demo)
     install_missing_packages
@@ -104,6 +117,7 @@ demo)
     build/tools/kivsim/kivsim -- build/tools/tambro/tambro folders
     echo
     build/tools/kivsim/kivsim -- build/tools/tambro/tambro du /kivlocal/download/tambro
+    show_file_manager
     ;;
 test)
     install_missing_packages

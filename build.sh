@@ -102,7 +102,7 @@ show_file_manager() {
     mkdir -p "$pictures"
     xvfb-run -a -s "-ac -screen 0 640x480x24" build/tools/kivsim/kivsim --share "$pictures" -- \
         env -u XAUTHORITY QT_QPA_PLATFORM=xcb FILEMANAGER_PICTURES="$pictures" \
-        build/examples/filemanager/tests/tst_filemanager_screens >/dev/null
+        build/examples/filemanager/tests/tst_filemanager pictures >/dev/null
     echo
     echo "The example file manager, as the sample phone shows it: $pictures"
     echo "  root.png, folder-list.png, folder-grid.png, details.png, notice.png"

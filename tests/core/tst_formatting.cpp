@@ -24,7 +24,6 @@ private Q_SLOTS:
         const double inf = std::numeric_limits<double>::infinity();
         QTest::newRow("zero") << G::uintSizeToGbMbStr(0, 1) << "0 B";
         QTest::newRow("last byte count") << G::uintSizeToGbMbStr(1023, 1) << "1023 B";
-        QTest::newRow("fraction of a byte rounds") << G::uintSizeToGbMbStr(1023.5, 1) << "1024 B";
         QTest::newRow("bytes never get decimals") << G::uintSizeToGbMbStr(500, 2) << "500 B";
         QTest::newRow("first kilobyte") << G::uintSizeToGbMbStr(1024, 1) << "1.0 KB";
         QTest::newRow("rounded value picks MB") << G::uintSizeToGbMbStr(1048535, 1) << "1.0 MB";
@@ -35,7 +34,6 @@ private Q_SLOTS:
         QTest::newRow("MB text is the unrounded value") << G::uintSizeToGbMbStr(1572864, 3) << "1.500 MB";
         QTest::newRow("negative decimals: text unrounded, six places") << G::uintSizeToGbMbStr(1027072, -1) << "1003.000000 KB";
         QTest::newRow("no unit above MB") << G::uintSizeToGbMbStr(1073741824, 1) << "1024.0 MB";
-        QTest::newRow("negative is bytes") << G::uintSizeToGbMbStr(-5000, 1) << "-5000 B";
         QTest::newRow("NaN takes the kilobyte path") << G::uintSizeToGbMbStr(nan, 1) << "nan KB";
         QTest::newRow("infinity") << G::uintSizeToGbMbStr(inf, 1) << "inf MB";
         QTest::newRow("minus infinity") << G::uintSizeToGbMbStr(-inf, 1) << "-inf B";
@@ -46,7 +44,6 @@ private Q_SLOTS:
         QTest::newRow("date zero padded") << G::convertDateTime({{2007, 3, 5}, {9, 4, 0}}) << "2007-03-05 09:04:00";
         QTest::newRow("year below 1000 padded with blanks") << G::convertDateTime({{999, 12, 31}, {23, 59, 59}}) << " 999-12-31 23:59:59";
         QTest::newRow("five-digit year not cut") << G::convertDateTime({{10000, 1, 1}, {0, 0}}) << "10000-01-01 00:00:00";
-        QTest::newRow("milliseconds dropped") << G::convertDateTime({{2020, 1, 1}, {0, 0, 0, 999}}) << "2020-01-01 00:00:00";
 
         QTest::newRow("duration zero") << G::convertTime(0) << "00:00";
         QTest::newRow("below half a second") << G::convertTime(499) << "00:00";
@@ -56,7 +53,6 @@ private Q_SLOTS:
         QTest::newRow("more than 99 hours") << G::convertTime(360000000) << "100:00:00";
         QTest::newRow("negative wraps unsigned") << G::convertTime(-501) << "1193:02:47";
         QTest::newRow("rounding wraps past zero") << G::convertTime(-1) << "00:00";
-        QTest::newRow("largest int") << G::convertTime(2147483647) << "596:31:24";
     }
 
     void texts()

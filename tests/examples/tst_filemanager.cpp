@@ -1,6 +1,10 @@
-// The file manager as a person uses it, on the sample phone (offscreen): one
-// run from the root through a folder, a selection, a rename, two files opened
-// and a card taken out.
+// The file manager as a person uses it, on the sample phone: one session
+// (offscreen) from the root through a folder, a selection, a rename, two
+// files opened and a card taken out; and, on a real window system (Xvfb),
+// pictures of the root, a folder as a list and as a grid, the details view
+// and a notice, written as PNG files into $FILEMANAGER_PICTURES and checked
+// through their widgets.
+#include "details_dialog.h"
 #include "main_window.h"
 #include "test_phone.h"
 
@@ -12,6 +16,8 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
+#include <QSet>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -26,11 +32,6 @@ QStringList shownNames(const FolderModel &model)
     for (int row = 0; row < model.rowCount(); ++row)
         names << model.index(row, 0).data().toString();
     return names;
-}
-
-int rowOf(const FolderModel &model, const QString &shownName)
-{
-    return int(shownNames(model).indexOf(shownName));
 }
 
 // Types into the name field of the dialog that the action opens, then
@@ -52,6 +53,25 @@ QString typeIntoNameDialog(QAction *action, const QString &keys)
     return typed;
 }
 
+// Saves the widget's picture and returns the texts it shows; nothing when
+// the picture is blank or cannot be written.
+QStringList savePicture(QWidget *widget, const QString &name)
+{
+    QCoreApplication::processEvents();
+    const QImage image = widget->grab().toImage();
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); y += 4)
+        for (int x = 0; x < image.width(); x += 4)
+            colours.insert(image.pixel(x, y));
+    const QString file = QDir(qEnvironmentVariable("FILEMANAGER_PICTURES", QDir::tempPath())).filePath(name + ".png");
+    if (colours.size() <= 8 || !image.save(file))
+        return {};
+    QStringList texts{QStringLiteral("saved")};
+    for (const QLabel *label : widget->findChildren<QLabel *>())
+        texts << label->text();
+    return texts;
+}
+
 } // namespace
 
 class TestFileManager : public QObject
@@ -60,12 +80,12 @@ class TestFileManager : public QObject
 
     MainWindow m_window;
 
-    void select(const QStringList &shownNames)
+    void select(const QStringList &names)
     {
         QItemSelectionModel *selection = m_window.listView()->selectionModel();
         selection->clear();
-        for (const QString &name : shownNames) {
-            const QModelIndex index = m_window.model()->index(rowOf(*m_window.model(), name), 0);
+        for (const QString &name : names) {
+            const QModelIndex index = m_window.model()->index(int(shownNames(*m_window.model()).indexOf(name)), 0);
             selection->setCurrentIndex(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
         }
     }
@@ -83,6 +103,8 @@ private Q_SLOTS:
 
     void aWholeSession()
     {
+        if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+            QSKIP("message boxes would wait for a person");
         // The root: fixed folders in their order, the storages beside them.
         QStringList root = shownNames(*m_window.model());
         QCOMPARE(root.first(), "Pictures");
@@ -90,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(m_window.location()->text(), "My Files");
 
         // Into a folder with Enter, then two files selected.
-        m_window.listView()->setCurrentIndex(m_window.model()->index(rowOf(*m_window.model(), "Audio"), 0));
+        m_window.listView()->setCurrentIndex(m_window.model()->index(int(shownNames(*m_window.model()).indexOf("Audio")), 0));
         QTest::keyClick(m_window.listView(), Qt::Key_Return);
         QCOMPARE(m_window.location()->text(), "My Files/Audio");
         select({"LOUD.MP3", "Morning Song.mp3"});
@@ -128,6 +150,43 @@ private Q_SLOTS:
         action("refresh")->trigger();
         root = shownNames(*m_window.model());
         QVERIFY(!root.contains("Memory Card") && root.contains("Work SIM"));
+    }
+
+    void pictures()
+    {
+        if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+            QSKIP("pictures are taken on a real window system");
+        MainWindow &window = m_window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.size(), QSize(240, 320));
+        QVERIFY(window.openFolder(Root));
+        QVERIFY(savePicture(&window, "root").contains("My Files"));
+        QVERIFY(window.openFolder(Root + "/picture"));
+        QVERIFY(savePicture(&window, "folder-list").contains("My Files/Pictures"));
+        window.findChild<QAction *>("grid")->setChecked(true);
+        QVERIFY(window.gridView()->isVisible() && !savePicture(&window, "folder-grid").isEmpty());
+
+        DetailsDialog details(Root + "/audio", "Audio", &window);
+        details.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&details));
+        const QStringList shown = savePicture(&details, "details");
+        QVERIFY2(shown.contains("Audio") && shown.filter(" free of ").size() == 1, qPrintable(shown.join('|')));
+
+        // The phone's notice for a file no application opens, a real window.
+        QStringList notice;
+        QTimer::singleShot(200, [&] {
+            if (QWidget *dialog = QApplication::activeModalWidget()) {
+                notice = savePicture(dialog, "notice");
+                dialog->close();
+            }
+        });
+        QVERIFY(window.openFolder(Root + "/documents"));
+        const int card = int(window.model()->match(window.model()->index(0, 0), FolderModel::PathRole,
+                                                   Root + "/documents/Anna Berg.vcf").value(0).row());
+        window.gridView()->setCurrentIndex(window.model()->index(card, 0));
+        window.findChild<QAction *>("open")->trigger();
+        QVERIFY2(notice.contains("Cannot Access"), qPrintable(notice.join('|')));
     }
 };
 

@@ -108,15 +108,6 @@ private Q_SLOTS:
                                     "storage Memory Card fm_memory_card_small.gif", "folder Pictures.1 fm_folder_small.gif"}));
     }
 
-    void pathTellsWhereAFolderIsShown()
-    {
-        const QJsonArray paths = tambro({"path", "--json", "/mmc/mmca1/DCIM", "/usr/data_resource/pic"}).json().toArray();
-        QCOMPARE(paths.at(0)["location"].toString(), "My Files/Memory Card/DCIM");
-        QCOMPARE(paths.at(0)["partition"].toInt(), 3);
-        QCOMPARE(paths.at(1)["parentName"].toString(), "Pictures");
-        QCOMPARE(paths.at(1)["partition"].toInt(), -4);
-    }
-
     // Present paths reported, a missing one said and left out of the title.
     void duShowsUsageAndTheSelectionTitle()
     {

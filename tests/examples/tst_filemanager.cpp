@@ -17,10 +17,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMessageBox>
 #include <QSet>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
+
+#include <functional>
 
 namespace {
 
@@ -34,23 +37,14 @@ QStringList shownNames(const FolderModel &model)
     return names;
 }
 
-// Types into the name field of the dialog that the action opens, then
-// accepts it; what the field held after the typing.
-QString typeIntoNameDialog(QAction *action, const QString &keys)
+// Runs the action, and answers the modal window it opens.
+void answerModal(QAction *action, const std::function<void(QWidget *)> &answer)
 {
-    QString typed;
     QTimer::singleShot(0, [&] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        auto *field = dialog ? dialog->findChild<QLineEdit *>(QStringLiteral("nameField")) : nullptr;
-        if (!field)
-            return;
-        field->clear();
-        QTest::keyClicks(field, keys);
-        typed = field->text();
-        dialog->accept();
+        if (QWidget *window = QApplication::activeModalWidget())
+            answer(window);
     });
     action->trigger();
-    return typed;
 }
 
 // Saves the widget's picture and returns the texts it shows; nothing when
@@ -96,6 +90,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         TestPhone::startJournal();
+        QVERIFY(QDir(Root + "/audio").mkdir("Live"));
         TAMBRO_Global::instance();
         TAMBRO_FixedFolder::initialize();
         QVERIFY(m_window.openFolder(TAMBRO_FixedFolder::m_sFMRootPath));
@@ -115,7 +110,8 @@ private Q_SLOTS:
         m_window.listView()->setCurrentIndex(m_window.model()->index(int(shownNames(*m_window.model()).indexOf("Audio")), 0));
         QTest::keyClick(m_window.listView(), Qt::Key_Return);
         QCOMPARE(m_window.location()->text(), "My Files/Audio");
-        select({"LOUD.MP3", "Morning Song.mp3"});
+        QCOMPARE(shownNames(*m_window.model()).first(), "Live"); // folders first
+        select({"Live", "LOUD.MP3", "Morning Song.mp3"}); // a folder is no file
         QCOMPARE(m_window.windowTitle(), "2 files selected - Total 148 B");
 
         // Opening a song reaches the media player.
@@ -124,16 +120,23 @@ private Q_SLOTS:
         QVERIFY(TestPhone::journalCalls().contains("AM_ActionData::invoke"));
 
         // A forbidden character never reaches the name; the folder is renamed.
-        QVERIFY(QDir(Root + "/audio").mkdir("Live"));
-        m_window.openFolder(Root + "/audio");
         select({"Live"});
-        QCOMPARE(typeIntoNameDialog(action("rename"), "Live*2026"), "Live2026");
+        QString typed;
+        answerModal(action("rename"), [&](QWidget *dialog) {
+            auto *field = dialog->findChild<QLineEdit *>(QStringLiteral("nameField"));
+            field->clear();
+            QTest::keyClicks(field, "Live*2026");
+            typed = field->text();
+            qobject_cast<QDialog *>(dialog)->accept();
+        });
+        QCOMPARE(typed, "Live2026");
         QVERIFY(QFileInfo(Root + "/audio/Live2026").isDir() && !QFileInfo::exists(Root + "/audio/Live"));
         // A fixed folder keeps its name: the notice comes, no dialog.
         m_window.openFolder(Root);
         select({"Audio"});
-        QTimer::singleShot(0, [] { if (QWidget *box = QApplication::activeModalWidget()) box->close(); });
-        action("rename")->trigger();
+        bool noticed = false;
+        answerModal(action("rename"), [&](QWidget *box) { noticed = qobject_cast<QMessageBox *>(box) && box->close(); });
+        QVERIFY(noticed);
         QVERIFY(QFileInfo(Root + "/audio").isDir());
 
         // A contact card cannot be opened: the phone's notice says so.
@@ -164,7 +167,7 @@ private Q_SLOTS:
         QVERIFY(savePicture(&window, "root").contains("My Files"));
         QVERIFY(window.openFolder(Root + "/picture"));
         QVERIFY(savePicture(&window, "folder-list").contains("My Files/Pictures"));
-        window.findChild<QAction *>("grid")->setChecked(true);
+        action("grid")->setChecked(true);
         QVERIFY(window.gridView()->isVisible() && !savePicture(&window, "folder-grid").isEmpty());
 
         DetailsDialog details(Root + "/audio", "Audio", &window);
@@ -174,18 +177,12 @@ private Q_SLOTS:
         QVERIFY2(shown.contains("Audio") && shown.filter(" free of ").size() == 1, qPrintable(shown.join('|')));
 
         // The phone's notice for a file no application opens, a real window.
-        QStringList notice;
-        QTimer::singleShot(200, [&] {
-            if (QWidget *dialog = QApplication::activeModalWidget()) {
-                notice = savePicture(dialog, "notice");
-                dialog->close();
-            }
-        });
         QVERIFY(window.openFolder(Root + "/documents"));
         const int card = int(window.model()->match(window.model()->index(0, 0), FolderModel::PathRole,
                                                    Root + "/documents/Anna Berg.vcf").value(0).row());
         window.gridView()->setCurrentIndex(window.model()->index(card, 0));
-        window.findChild<QAction *>("open")->trigger();
+        QStringList notice;
+        answerModal(action("open"), [&](QWidget *dialog) { notice = savePicture(dialog, "notice"); dialog->close(); });
         QVERIFY2(notice.contains("Cannot Access"), qPrintable(notice.join('|')));
     }
 };

@@ -10,8 +10,9 @@
 #include <AM_MimeRegistry.h>
 #include <sortmethods.h>
 
+#include <QVarLengthArray>
+
 #include <cstdlib>
-#include <vector>
 
 bool TAMBRO_Global::initMemFlag = false;
 int TAMBRO_Global::phoneNoi = -1;
@@ -32,14 +33,18 @@ void releaseAtExit()
 
 // The sorter takes big-endian UCS-2: each unit holds its code byte-swapped,
 // which on the little-endian phone lays the code out big-endian in memory.
-std::vector<unsigned short> sorterUnits(const QString &text)
+// Written into the caller's buffer, which a sort's n log n comparisons reuse
+// (Qt's container: the standard library's would export its growth function).
+using SorterBuffer = QVarLengthArray<unsigned short, 128>;
+const unsigned short *sorterUnits(const QString &text, SorterBuffer &units)
 {
-    std::vector<unsigned short> units(size_t(text.size()) + 1, 0);
+    units.resize(text.size() + 1);
     for (qsizetype i = 0; i < text.size(); ++i) {
         const unsigned short code = text.at(i).unicode();
-        units[size_t(i)] = static_cast<unsigned short>(((code & 0xFF) << 8) | (code >> 8));
+        units[i] = static_cast<unsigned short>(((code & 0xFF) << 8) | (code >> 8));
     }
-    return units;
+    units.back() = 0;
+    return units.data();
 }
 
 } // namespace
@@ -82,7 +87,7 @@ QString TAMBRO_Global::getDeviceName()
 
 int TAMBRO_Global::compareString(const QString &first, const QString &second)
 {
-    const std::vector<unsigned short> firstUnits = sorterUnits(first);
-    const std::vector<unsigned short> secondUnits = sorterUnits(second);
-    return sortmethods_str_cmp(firstUnits.data(), secondUnits.data());
+    thread_local SorterBuffer firstUnits;
+    thread_local SorterBuffer secondUnits;
+    return sortmethods_str_cmp(sorterUnits(first, firstUnits), sorterUnits(second, secondUnits));
 }

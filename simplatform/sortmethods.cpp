@@ -10,13 +10,16 @@
 
 namespace {
 
-QString fromBigEndianUcs2(const unsigned short *units)
+// Into the caller's string, which a sort's n log n comparisons reuse.
+const QString &fromBigEndianUcs2(const unsigned short *units, QString &text)
 {
-    QString text;
-    if (!units)
-        return text;
-    for (const unsigned short *unit = units; *unit != 0; ++unit)
-        text.append(QChar(qFromBigEndian<quint16>(unit)));
+    qsizetype length = 0;
+    while (units && units[length] != 0)
+        ++length;
+    text.resize(length);
+    QChar *out = text.data();
+    for (qsizetype i = 0; i < length; ++i)
+        out[i] = QChar(qFromBigEndian<quint16>(units + i));
     return text;
 }
 
@@ -66,5 +69,7 @@ int sortmethods_str_cmp(const unsigned short *first, const unsigned short *secon
             .arg("second", unitsToJson(second))
             .write();
     }
-    return collator().compare(fromBigEndianUcs2(first), fromBigEndianUcs2(second));
+    thread_local QString firstText;
+    thread_local QString secondText;
+    return collator().compare(fromBigEndianUcs2(first, firstText), fromBigEndianUcs2(second, secondText));
 }

@@ -44,12 +44,8 @@ std::optional<std::vector<Listed>> readFolder(const QString &folder)
     return entries;
 }
 
-void sortByName(std::vector<Listed> &entries)
-{
-    std::sort(entries.begin(), entries.end(), [](const Listed &a, const Listed &b) {
-        return TAMBRO_Global::compareString(a.name, b.name) < 0;
-    });
-}
+// A screenful and more: the least that is put in order at a time.
+constexpr size_t OrderedAtOnce = 64;
 
 // What a storage that cannot be used as usual says after its name.
 QString storageState(const QString &mountFolder)
@@ -81,34 +77,64 @@ bool FolderModel::setFolder(const QString &folder, const TAMBRO_File_Filter *fil
     QSet<QString> fixedPaths;
     if (const QList<FixedFolder> *fixed = TAMBRO_FixedFolder::getFixedFolderList(absolute)) {
         for (const FixedFolder &each : *fixed) {
-            rows.push_back({each.absolutePath, true, false, {}});
+            rows.push_back({each.absolutePath, QString(), true, false, {}});
             fixedPaths.insert(each.absolutePath);
         }
     }
-    std::optional<std::vector<Listed>> entries = readFolder(absolute);
+    const std::optional<std::vector<Listed>> entries = readFolder(absolute);
     if (!entries)
         return false;
     if (absolute == TAMBRO_FixedFolder::m_sFMRootPath) {
         for (int parti = 1; parti <= TAMBRO_Global::getPartiActNumber(); ++parti) {
             if (TAMBRO_Global::isCards(parti))
-                rows.push_back({TAMBRO_Global::getPartiName(parti), true, true, {}});
+                rows.push_back({TAMBRO_Global::getPartiName(parti), QString(), true, true, {}});
         }
     }
-    sortByName(*entries);
     const QString prefix = absolute.endsWith(u'/') ? absolute : absolute + u'/';
+    Group groups[2];
     for (const bool folders : {true, false}) {
+        Group &group = groups[folders ? 0 : 1];
+        group.begin = group.ordered = rows.size();
         for (const Listed &entry : *entries) {
             const QString path = prefix + entry.name;
             if (entry.isFolder != folders || fixedPaths.contains(path) || (!folders && filter && !filter->match(path)))
                 continue;
-            rows.push_back({path, entry.isFolder, false, {}});
+            rows.push_back({path, entry.name, entry.isFolder, false, {}});
         }
+        group.end = rows.size();
     }
     beginResetModel();
     m_folder = absolute;
     m_rows = std::move(rows);
+    std::copy(std::begin(groups), std::end(groups), m_groups);
     endResetModel();
     return true;
+}
+
+FolderModel::Row &FolderModel::rowAt(int row) const
+{
+    const size_t wanted = size_t(row);
+    for (Group &group : m_groups) {
+        if (wanted >= group.ordered && wanted < group.end)
+            orderUpTo(group, wanted);
+    }
+    return m_rows[wanted];
+}
+
+// Twice the rows already in order, and at least a screenful more: the next
+// smallest names are picked out (linear time) and only they are sorted, so
+// that scrolling through the whole folder costs no more than one sort.
+void FolderModel::orderUpTo(Group &group, size_t row) const
+{
+    const size_t next = std::min(group.end, std::max({row + 1, group.ordered + OrderedAtOnce,
+                                                      2 * group.ordered - group.begin}));
+    const auto byName = [](const Row &a, const Row &b) { return TAMBRO_Global::compareString(a.name, b.name) < 0; };
+    const auto first = m_rows.begin() + qsizetype(group.ordered);
+    const auto middle = m_rows.begin() + qsizetype(next);
+    if (next < group.end)
+        std::nth_element(first, middle, m_rows.begin() + qsizetype(group.end), byName);
+    std::sort(first, middle, byName);
+    group.ordered = next;
 }
 
 void FolderModel::setBigIcons(bool big)
@@ -120,10 +146,10 @@ void FolderModel::setBigIcons(bool big)
 
 qint64 FolderModel::fileSize(int row) const
 {
-    return shown(m_rows[size_t(row)]).size;
+    return shown(rowAt(row)).size;
 }
 
-const FolderModel::Shown &FolderModel::shown(const Row &row) const
+const FolderModel::Shown &FolderModel::shown(Row &row) const
 {
     if (!row.shown)
         row.shown = row.isFolder ? folderShown(row) : fileShown(row);
@@ -180,7 +206,7 @@ QVariant FolderModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    const Row &row = m_rows[size_t(index.row())];
+    Row &row = rowAt(index.row());
     switch (role) {
     case PathRole:
         return row.path;

@@ -1,9 +1,10 @@
 // One folder's entries as the phone lists them: at the root its fixed
 // folders in their order and the storages; then the other folders, then the
 // files, each group sorted by the phone's collation. Reading a folder only
-// lists and sorts its names; a row's icons, shown name, size and date are
-// worked out when a view first asks for them, so that a folder of 100,000
-// entries opens at once.
+// lists its names. They are put in order only as far as a view asks, a
+// screen or more at a time, and a row's icons, shown name and size are worked
+// out when a view first asks for them: a folder of 100,000 entries opens at
+// once.
 #pragma once
 
 #include <QAbstractItemModel>
@@ -30,8 +31,8 @@ public:
     QString folder() const { return m_folder; }
     // Whether rows show their big (thumbnail) icons, for a grid.
     void setBigIcons(bool big);
-    QString path(int row) const { return m_rows[size_t(row)].path; }
-    bool isFolder(int row) const { return m_rows[size_t(row)].isFolder; }
+    QString path(int row) const { return rowAt(row).path; }
+    bool isFolder(int row) const { return rowAt(row).isFolder; }
     qint64 fileSize(int row) const;
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
@@ -52,16 +53,30 @@ private:
     struct Row
     {
         QString path;
+        QString name; // on disk: what the rows are sorted by
         bool isFolder = false;
         bool isStorage = false;
-        mutable std::optional<Shown> shown;
+        std::optional<Shown> shown;
+    };
+    // Rows [begin, end) of one kind, in order up to ordered.
+    struct Group
+    {
+        size_t begin = 0;
+        size_t end = 0;
+        size_t ordered = 0;
     };
 
-    const Shown &shown(const Row &row) const;
+    // The row, after the rows of its group up to it are in order.
+    Row &rowAt(int row) const;
+    void orderUpTo(Group &group, size_t row) const;
+
+    const Shown &shown(Row &row) const;
     Shown folderShown(const Row &row) const;
     Shown fileShown(const Row &row) const;
 
     QString m_folder;
-    std::vector<Row> m_rows;
+    // Ordering and working out rows are a cache, filled when a view reads.
+    mutable std::vector<Row> m_rows;
+    mutable Group m_groups[2]; // the folders, the files
     bool m_bigIcons = false;
 };

@@ -145,6 +145,20 @@ private Q_SLOTS:
         action("open")->trigger();
         QVERIFY(TestPhone::journalCalls().contains("ZPopup::exec"));
 
+        // Put in order as far as asked: any row first, the whole order the collation's.
+        QStringList names;
+        QVERIFY(QDir().mkpath(Root + "/others/many"));
+        for (int i = 0; i < 300; ++i) {
+            names << QStringLiteral("n%1 %2.txt").arg((i * 7919) % 1000).arg(i % 3 ? "a" : "B");
+            QVERIFY(QFile(Root + "/others/many/" + names.last()).open(QIODevice::WriteOnly));
+        }
+        std::sort(names.begin(), names.end(), [](auto &a, auto &b) { return TAMBRO_Global::compareString(a, b) < 0; });
+        for (const int first : {299, 150, 0}) {
+            m_window.openFolder(Root + "/others/many");
+            QCOMPARE(m_window.model()->index(first, 0).data().toString(), names.at(first));
+            QCOMPARE(shownNames(*m_window.model()), names);
+        }
+
         // The card taken out: gone from the root after Refresh.
         m_window.openFolder(Root);
         QFile device(qEnvironmentVariable("KIVSIM_DEVICE"));

@@ -10,6 +10,7 @@
 
 #include <TAMBRO_Global.h>
 
+#include "in_turn.h"
 #include "listing_names.h"
 #include "types/icon_cache.h"
 
@@ -32,21 +33,9 @@ const std::vector<QString> &names()
     return list;
 }
 
-// Each iteration classifies one name, so the time shown is per name.
-template<typename Classify>
-void overNames(benchmark::State &state, Classify classify)
-{
-    const std::vector<QString> &list = names();
-    size_t next = 0;
-    for (auto _ : state) {
-        classify(list[next]);
-        next = next + 1 == list.size() ? 0 : next + 1;
-    }
-}
-
 void libraryIconChoice(benchmark::State &state)
 {
-    overNames(state, [](const QString &name) {
+    askInTurn(state, names(), [](const QString &name) {
         benchmark::DoNotOptimize(TAMBRO_Global::getFileIconByType(name, false));
     });
 }
@@ -55,7 +44,7 @@ BENCHMARK(libraryIconChoice);
 void bareQMimeDatabase(benchmark::State &state)
 {
     const QMimeDatabase database;
-    overNames(state, [&](const QString &name) {
+    askInTurn(state, names(), [&](const QString &name) {
         benchmark::DoNotOptimize(database.mimeTypeForFile(name, QMimeDatabase::MatchExtension));
     });
 }
@@ -67,14 +56,12 @@ void gioContentTypeGuess(benchmark::State &state)
     std::vector<QByteArray> utf8;
     for (const QString &name : names())
         utf8.push_back(name.toUtf8());
-    size_t next = 0;
-    for (auto _ : state) {
+    askInTurn(state, utf8, [](const QByteArray &name) {
         gboolean uncertain = false;
-        gchar *type = g_content_type_guess(utf8[next].constData(), nullptr, 0, &uncertain);
+        gchar *type = g_content_type_guess(name.constData(), nullptr, 0, &uncertain);
         benchmark::DoNotOptimize(type);
         g_free(type);
-        next = next + 1 == utf8.size() ? 0 : next + 1;
-    }
+    });
 }
 BENCHMARK(gioContentTypeGuess);
 #endif

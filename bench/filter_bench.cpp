@@ -4,6 +4,7 @@
 #include <TAMBRO_Char_Validator.h>
 #include <TAMBRO_File_Filter.h>
 
+#include "in_turn.h"
 #include "listing_names.h"
 
 #include <QGuiApplication>
@@ -27,15 +28,9 @@ const std::vector<QString> &paths()
     return list;
 }
 
-// Each iteration asks about one name, so the time shown is per name.
 void matchNames(benchmark::State &state, const TAMBRO_File_Filter &filter)
 {
-    const std::vector<QString> &list = paths();
-    size_t next = 0;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(filter.match(list[next]));
-        next = next + 1 == list.size() ? 0 : next + 1;
-    }
+    askInTurn(state, paths(), [&](const QString &path) { benchmark::DoNotOptimize(filter.match(path)); });
 }
 
 void extensionList(benchmark::State &state)

@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include "in_turn.h"
+
 #include <benchmark/benchmark.h>
 
 #include <vector>
@@ -43,21 +45,9 @@ const std::vector<QString> &folders()
     return list;
 }
 
-// Each iteration asks about one folder, so the time shown is per folder.
-template<typename Ask>
-void overFolders(benchmark::State &state, Ask ask)
-{
-    const std::vector<QString> &list = folders();
-    size_t next = 0;
-    for (auto _ : state) {
-        ask(list[next]);
-        next = next + 1 == list.size() ? 0 : next + 1;
-    }
-}
-
 void folderRes(benchmark::State &state)
 {
-    overFolders(state, [](const QString &path) {
+    askInTurn(state, folders(), [](const QString &path) {
         _TAMBRO_FOLDER_RES res;
         TAMBRO_Global::getFolderRes(path, res, false);
         benchmark::DoNotOptimize(res);
@@ -67,7 +57,7 @@ BENCHMARK(folderRes);
 
 void shortName(benchmark::State &state)
 {
-    overFolders(state, [](const QString &path) { benchmark::DoNotOptimize(TAMBRO_Global::getShortName(path)); });
+    askInTurn(state, folders(), [](const QString &path) { benchmark::DoNotOptimize(TAMBRO_Global::getShortName(path)); });
 }
 BENCHMARK(shortName);
 

@@ -2,6 +2,7 @@
 
 #include "file_watch.h"
 #include "system_mime_database.h"
+#include "warning.h"
 
 #include <QByteArrayView>
 #include <QDebug>
@@ -312,7 +313,7 @@ std::shared_ptr<const DeviceState> readDeviceFile(const QString &path)
         return lineOf(a) < lineOf(b);
     });
     for (const QString &warning : std::as_const(warnings))
-        qWarning().noquote() << "kivsim: warning:" << warning;
+        platformWarning(warning);
     return state;
 }
 

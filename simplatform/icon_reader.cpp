@@ -2,6 +2,7 @@
 
 #include "device.h"
 #include "journal.h"
+#include "warning.h"
 
 #include "core/regular_file.h"
 
@@ -31,8 +32,7 @@ QByteArray iconData(const QString &dir, const QString &name)
     const QString path = dir + u'/' + name;
     const Tambro::FileContent content = Tambro::readRegularFile(path, MaxIconBytes);
     if (!content.problem.isEmpty())
-        qWarning().noquote() << "kivsim: warning: icon" << path << content.problem
-                             << "and is not read";
+        platformWarning(QStringLiteral("icon %1 %2 and is not read").arg(path, content.problem));
     return content.data;
 }
 

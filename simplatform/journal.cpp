@@ -1,4 +1,5 @@
 #include "journal.h"
+#include "warning.h"
 
 #include <QDebug>
 #include <QFile>
@@ -34,9 +35,9 @@ void warnOnce(const char *what)
 {
     static std::atomic_bool warned{false};
     if (!warned.exchange(true)) {
-        qWarning().noquote() << "kivsim: warning: cannot" << what << "the journal"
-                             << QFile::decodeName(journalPath()) + u':'
-                             << QString::fromLocal8Bit(std::strerror(errno));
+        platformWarning(QStringLiteral("cannot %1 the journal %2: %3")
+                            .arg(QLatin1String(what), QFile::decodeName(journalPath()),
+                                 QString::fromLocal8Bit(std::strerror(errno))));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "ZConfig.h"
 
 #include "keyfile.h"
+#include "warning.h"
 
 #include <QDebug>
 #include <QFile>
@@ -17,11 +18,11 @@ ZConfig::ZConfig(const QString &path, bool create) : d(std::make_unique<Data>())
     if (create && !QFile::exists(path)) {
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly))
-            qWarning().noquote() << "kivsim: warning: cannot create" << path + u':' << file.errorString();
+            platformWarning(QStringLiteral("cannot create %1: %2").arg(path, file.errorString()));
     }
     d->file = KeyFile::load(path);
     for (const QString &warning : d->file.warnings())
-        qWarning().noquote() << "kivsim: warning:" << warning;
+        platformWarning(warning);
 }
 
 ZConfig::~ZConfig() = default;

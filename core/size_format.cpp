@@ -4,7 +4,9 @@
 
 #include "translation.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -35,9 +37,21 @@ struct Scaled
     Unit unit;
 };
 
+// The decimals the text is written with. Digits beyond what a double carries
+// say nothing, and a huge number of them would take gigabytes or abort in
+// Qt's conversion. A negative number gets printf's default, as on the phone
+// (Qt alone would read one of them as "shortest").
+int textDecimals(int decimals)
+{
+    constexpr int MostDecimals = std::numeric_limits<double>::max_digits10;
+    constexpr int PrintfDefault = 6;
+    return decimals < 0 ? PrintfDefault : std::min(decimals, MostDecimals);
+}
+
 // The unit is chosen by the value rounded to the decimals asked, so that a
 // size that would read 1024.0 KB reads 1.0 MB; the text is written from the
-// unrounded value. A NaN size is no byte count and takes the kilobyte path.
+// unrounded value, with the decimals asked within the bounds above. A NaN
+// size is no byte count and takes the kilobyte path.
 Scaled formatWithUnit(double size, int decimals)
 {
     if (size < 1024.0)
@@ -46,8 +60,8 @@ Scaled formatWithUnit(double size, int decimals)
     const double scale = std::pow(10.0, decimals);
     const double rounded = std::floor(kilo * scale + 0.5) / scale;
     if (rounded >= 1024.0)
-        return {QString::number(kilo * 0.0009765625, 'f', decimals), MegaBytes};
-    return {QString::number(kilo, 'f', decimals), KiloBytes};
+        return {QString::number(kilo * 0.0009765625, 'f', textDecimals(decimals)), MegaBytes};
+    return {QString::number(kilo, 'f', textDecimals(decimals)), KiloBytes};
 }
 
 QString templateFor(const Templates &templates, Unit unit)

@@ -154,12 +154,16 @@ public:
     static QString getMultiSelectTitle(double size, unsigned count);
     // "2.0 KB": the size with 1 decimal, as a details view shows it.
     static QString getDetailViewSizeStr(double size);
-    // The size with the decimals asked.
+    // The size with the decimals asked, which also choose the unit. The text
+    // has at most 17 decimals (all a double carries) however many are asked,
+    // and 6 when a negative number is asked, as printf writes.
     static QString uintSizeToGbMbStr(double size, int decimals);
     // "2007-03-05 09:04:00"; a year below 1000 is padded with blanks.
     static QString convertDateTime(QDateTime dateTime);
-    // "mm:ss" below one hour, else "h...h:mm:ss", to the nearest second. A
-    // negative duration is taken as its unsigned 32-bit value.
+    // "mm:ss" below one hour, else "h...h:mm:ss", to the nearest second. The
+    // arithmetic is unsigned 32-bit, as on the phone: a negative duration is
+    // taken as its unsigned value plus the half second of the rounding, which
+    // wraps, so -1 to -500 read "00:00" and -501 reads "1193:02:47".
     static QString convertTime(int milliseconds);
 
     // --- Disk and folder usage, from the file system on every call ----------

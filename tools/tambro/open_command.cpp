@@ -1,49 +1,15 @@
 #include "open_command.h"
 
+#include "journal_reader.h"
 #include "text_table.h"
 
 #include <TAMBRO_FileHandle.h>
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QTemporaryDir>
 
 namespace {
-
-// The simulated phone journals each platform request; what a call added to
-// the journal is what it asked of the phone.
-class JournalReader
-{
-public:
-    // Before the first platform call: a journal of the tool's own when none is named.
-    JournalReader()
-    {
-        if (qEnvironmentVariableIsEmpty("KIVSIM_JOURNAL"))
-            qputenv("KIVSIM_JOURNAL", QFile::encodeName(m_folder.filePath(QStringLiteral("journal.jsonl"))));
-        m_file.setFileName(qEnvironmentVariable("KIVSIM_JOURNAL"));
-    }
-    void mark() { m_start = QFileInfo(m_file.fileName()).size(); }
-    QJsonArray requestsSinceMark()
-    {
-        QJsonArray requests;
-        if (!m_file.open(QIODevice::ReadOnly))
-            return requests;
-        m_file.seek(m_start);
-        for (const QByteArray &line : m_file.readAll().split('\n')) {
-            if (!line.isEmpty())
-                requests.append(QJsonDocument::fromJson(line).object());
-        }
-        m_file.close();
-        return requests;
-    }
-
-private:
-    QTemporaryDir m_folder;
-    QFile m_file;
-    qint64 m_start = 0;
-};
 
 // As the file manager opens a file it lists: by its absolute path.
 QJsonObject open(const QString &file, const Request &request, JournalReader &journal)
@@ -60,19 +26,6 @@ QJsonObject open(const QString &file, const Request &request, JournalReader &jou
                        {QStringLiteral("requests"), journal.requestsSinceMark()}};
 }
 
-// "call key=value ...", the values as JSON.
-QString describe(const QJsonObject &request)
-{
-    QStringList parts{request[QStringLiteral("call")].toString()};
-    for (auto it = request.begin(); it != request.end(); ++it) {
-        if (it.key() == QLatin1String("call"))
-            continue;
-        const QByteArray value = QJsonDocument(QJsonArray{it.value()}).toJson(QJsonDocument::Compact);
-        parts << it.key() + u'=' + QString::fromUtf8(value.mid(1, value.size() - 2));
-    }
-    return parts.join(u' ');
-}
-
 QString textTable(const QJsonArray &opened)
 {
     TextTable table({QStringLiteral("FILE"), QStringLiteral("RESULT"), QStringLiteral("REQUESTS")});
@@ -80,7 +33,7 @@ QString textTable(const QJsonArray &opened)
         const QJsonObject file = value.toObject();
         QStringList requests;
         for (const QJsonValue &request : file[QStringLiteral("requests")].toArray())
-            requests << describe(request.toObject());
+            requests << describeRequest(request.toObject());
         table.addRow({file[QStringLiteral("file")].toString(), QString::number(file[QStringLiteral("result")].toInt()),
                       requests.isEmpty() ? QStringLiteral("-") : requests.takeFirst()});
         for (const QString &more : requests) // one request a line

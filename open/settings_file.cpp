@@ -4,15 +4,19 @@
 #include <QDir>
 #include <QFile>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace {
 
 constexpr mode_t EveryoneMayWrite = 0777;
 
+// Unlike the phone's chmod, a symbolic link is not followed: the setup folder
+// is world-writable, and a link planted there must not open another file to
+// everyone. The call fails on a link, which is left as it is.
 void setMode(const QString &path)
 {
-    (void)::chmod(QFile::encodeName(path).constData(), EveryoneMayWrite);
+    (void)::fchmodat(AT_FDCWD, QFile::encodeName(path).constData(), EveryoneMayWrite, AT_SYMLINK_NOFOLLOW);
 }
 
 } // namespace

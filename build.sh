@@ -100,7 +100,7 @@ EOF
 show_file_manager() {
     pictures=$PWD/build/examples/pictures
     mkdir -p "$pictures"
-    xvfb-run -a -s "-ac -screen 0 640x480x24" build/tools/kivsim/kivsim --share "$pictures" -- \
+    xvfb-run -a -s "-ac -screen 0 640x480x24" build/bin/kivsim --share "$pictures" -- \
         env -u XAUTHORITY QT_QPA_PLATFORM=xcb FILEMANAGER_PICTURES="$pictures" \
         build/examples/filemanager/tests/tst_filemanager pictures >/dev/null
     echo
@@ -112,11 +112,11 @@ case "${1:-}" in
 demo)
     install_missing_packages
     build build
-    build/tools/kivsim/kivsim -- build/tools/tambro/tambro storage
+    build/bin/kivsim -- build/bin/tambro storage
     echo
-    build/tools/kivsim/kivsim -- build/tools/tambro/tambro folders
+    build/bin/kivsim -- build/bin/tambro folders
     echo
-    build/tools/kivsim/kivsim -- build/tools/tambro/tambro du /kivlocal/download/tambro
+    build/bin/kivsim -- build/bin/tambro du /kivlocal/download/tambro
     show_file_manager
     ;;
 test)

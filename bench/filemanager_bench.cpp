@@ -4,7 +4,7 @@
 // QSortFilterProxyModel, for folders of 100, 10,000 and 100,000 entries of
 // a listing's mix; and the parts of the time (reading, collation). Runs on
 // the phone, so that the registry and the icons are the phone's:
-//   build/tools/kivsim/kivsim -- build/examples/filemanager/bench/filemanager_bench
+//   build/bin/kivsim -- build/examples/filemanager/bench/filemanager_bench
 #include "folder_model.h"
 
 #include "listing_names.h"

@@ -3,7 +3,7 @@
 // listing's mix of fixed folders, card folders and ordinary folders; and the
 // location line of a folder six levels below the root. Runs inside kivsim,
 // on the sample phone:
-//   build/tools/kivsim/kivsim -- build/bench/folder_bench
+//   build/bin/kivsim -- build/bench/folder_bench
 #include <TAMBRO_FixedFolder.h>
 #include <TAMBRO_Global.h>
 

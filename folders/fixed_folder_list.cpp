@@ -21,24 +21,41 @@ QList<FixedFolder> &folderList()
     return *list;
 }
 
-// The subfolder named by a "subN" entry, with its absolutePath; nothing for
-// preloaded content that is not on disk. Its display name is freed among the
-// folders where the listing shows it.
-std::optional<FixedFolder> subfolder(const QString &folder, const QString &entry)
+// The subfolder named by a "subN" entry, with its absolutePath and its
+// display name freed among the folders where the listing shows it; nothing
+// for a folder outside the root.
+std::optional<FixedFolder> fixedSubfolder(const QString &entry)
 {
+    const std::optional<QString> path = Tambro::fixedFolderPath(entry);
+    if (!path)
+        return std::nullopt;
     FixedFolder record;
     TAMBRO_FixedFolder::getFolder(entry, record, false);
-    if (!TAMBRO_FixedFolder::hasPreloadFolderTag(entry)) {
-        record.absolutePath = Tambro::absoluteFolderPath(entry);
-        Tambro::renameAsideFor(record.absolutePath, record.displayName);
-        return record;
-    }
-    record.absolutePath = Tambro::fromPreloadTagForm(entry);
-    if (!QFileInfo(record.absolutePath).isDir())
-        return std::nullopt;
-    // Preloaded content is shown inside the folder that lists it.
-    Tambro::renameAsideFor(folder + entry.mid(Tambro::PreloadTag.size()), record.displayName);
+    record.absolutePath = *path;
+    Tambro::renameAsideFor(record.absolutePath, record.displayName);
     return record;
+}
+
+// Preloaded content lies under the preload root and is shown inside the
+// folder that lists it: an entry that leads out of them, or whose content is
+// not on disk, names nothing.
+std::optional<FixedFolder> preloadedSubfolder(const QString &folder, const QString &entry)
+{
+    const QString shownPath = entry.mid(Tambro::PreloadTag.size());
+    FixedFolder record;
+    record.absolutePath = Tambro::fromPreloadTagForm(entry);
+    if (!Tambro::staysInside(shownPath) || !QFileInfo(record.absolutePath).isDir())
+        return std::nullopt;
+    TAMBRO_FixedFolder::getFolder(entry, record, false);
+    Tambro::renameAsideFor(folder + shownPath, record.displayName);
+    return record;
+}
+
+std::optional<FixedFolder> subfolder(const QString &folder, const QString &entry)
+{
+    if (TAMBRO_FixedFolder::hasPreloadFolderTag(entry))
+        return preloadedSubfolder(folder, entry);
+    return fixedSubfolder(entry);
 }
 
 // The list, or nothing when it would be null or empty.

@@ -46,6 +46,29 @@ QString relativeFolderPath(const QString &absolutePath)
     return absolutePath.mid(root.size());
 }
 
+bool staysInside(const QString &relativePath)
+{
+    if (!relativePath.startsWith(u'/'))
+        return false;
+    int depth = 0;
+    for (const QStringView part : QStringView(relativePath).split(u'/', Qt::SkipEmptyParts)) {
+        if (part == u"..")
+            --depth;
+        else if (part != u".")
+            ++depth;
+        if (depth < 0)
+            return false;
+    }
+    return true;
+}
+
+std::optional<QString> fixedFolderPath(const QString &relativePath)
+{
+    if (!relativePath.isEmpty() && !staysInside(relativePath))
+        return std::nullopt;
+    return TAMBRO_FixedFolder::m_sFMRootPath + relativePath;
+}
+
 void makeFolderPath(const QString &path)
 {
     // The root's own components are taken as given; the root itself is made

@@ -29,8 +29,10 @@ void TAMBRO_FixedFolder::initialize()
 
     QMap<QString, QString> keyWords;
     configuration->getGroupEntriesKeyList(QLatin1String(Tambro::KeyWordGroup), keyWords);
-    for (const QString &relativePath : std::as_const(keyWords))
-        Tambro::makeFolderPath(Tambro::absoluteFolderPath(relativePath));
+    for (const QString &relativePath : std::as_const(keyWords)) {
+        if (const std::optional<QString> path = Tambro::fixedFolderPath(relativePath))
+            Tambro::makeFolderPath(*path);
+    }
 }
 
 namespace Tambro {

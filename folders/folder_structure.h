@@ -24,13 +24,15 @@ QString rootPathFromEnvironment();
 // The opened folder structure file, after initialize() has run once.
 const ZConfig &folderStructure();
 
-// The root followed by the relative path exactly as given: blanks that
-// surround a value in the file are part of the folder's name. Inline, so
-// that the tools showing the structure use the same rule.
-inline QString absoluteFolderPath(const QString &relativePath)
-{
-    return TAMBRO_FixedFolder::m_sFMRootPath + relativePath;
-}
+// Whether a path given relative to a folder stays inside it once "." and
+// ".." are resolved: it begins with "/" and no ".." climbs above its start.
+bool staysInside(const QString &relativePath);
+// The folder that a root-relative path of the structure file names: the root
+// followed by the path exactly as given (blanks that surround a value in the
+// file are part of the folder's name), the root itself for an empty path.
+// Nothing when the path does not stay inside the root: the file names no
+// folder outside it, so none is ever made, moved or shown there.
+std::optional<QString> fixedFolderPath(const QString &relativePath);
 // The path without its first root-length characters when the root occurs
 // in it anywhere (not necessarily at its start); null otherwise.
 QString relativeFolderPath(const QString &absolutePath);

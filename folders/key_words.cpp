@@ -16,6 +16,14 @@ QString keyWordEntry(const char *group, const QString &keyWord)
     return Tambro::folderStructure().readEntry(QLatin1String(group), keyWord, QString()).trimmed();
 }
 
+// A key word's folder in one group; nothing when the group has no entry for
+// it or its folder lies outside the root.
+std::optional<QString> keyWordPath(const char *group, const QString &keyWord)
+{
+    const QString relative = keyWordEntry(group, keyWord);
+    return relative.isEmpty() ? std::nullopt : Tambro::fixedFolderPath(relative);
+}
+
 // A key word's folder with its display name, for the shortcuts of TAMBRO_Global.
 QString keyWordFolder(const char *keyWord, QString *name)
 {
@@ -34,10 +42,10 @@ QString TAMBRO_FixedFolder::getPathByKey(const QString &key)
     // "image/x" asks for "image"; a key beginning with "/" is taken whole.
     const qsizetype slash = key.indexOf(u'/');
     const QString keyWord = slash >= 1 ? key.left(slash) : key;
-    QString relative = keyWordEntry(Tambro::KeyWordGroup, keyWord);
-    if (relative.isEmpty())
-        relative = keyWordEntry(Tambro::PseudoKeyWordGroup, keyWord);
-    const QString path = relative.isEmpty() ? getDefaultFolder() : Tambro::absoluteFolderPath(relative);
+    std::optional<QString> found = keyWordPath(Tambro::KeyWordGroup, keyWord);
+    if (!found)
+        found = keyWordPath(Tambro::PseudoKeyWordGroup, keyWord);
+    const QString path = found ? *found : getDefaultFolder();
     if (!QFileInfo(path).isDir())
         Tambro::makeFolderPath(path);
     return path;
@@ -45,7 +53,8 @@ QString TAMBRO_FixedFolder::getPathByKey(const QString &key)
 
 QString TAMBRO_FixedFolder::getDefaultFolder()
 {
-    return Tambro::absoluteFolderPath(keyWordEntry(Tambro::KeyWordGroup, QStringLiteral("default")));
+    const QString relative = keyWordEntry(Tambro::KeyWordGroup, QStringLiteral("default"));
+    return Tambro::fixedFolderPath(relative).value_or(m_sFMRootPath);
 }
 
 QString TAMBRO_GetPathByKey(const QString &key)

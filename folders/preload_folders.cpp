@@ -24,14 +24,15 @@ QString translatedFileName(const QString &baseName)
     return translation;
 }
 
-// The real path of a folder named in the folder structure file.
-QString realFolderPath(const QString &group)
+// The real path of a folder named in the folder structure file; nothing for
+// a folder outside the root.
+std::optional<QString> realFolderPath(const QString &group)
 {
     if (group == QLatin1String(Tambro::RootGroup))
         return TAMBRO_FixedFolder::m_sFMRootPath;
     if (TAMBRO_FixedFolder::hasPreloadFolderTag(group))
         return Tambro::fromPreloadTagForm(group);
-    return Tambro::absoluteFolderPath(group);
+    return Tambro::fixedFolderPath(group);
 }
 
 } // namespace
@@ -57,15 +58,15 @@ bool TAMBRO_FixedFolder::getPreloadFolderParent(const QString &path, QString &pa
     if (!isPreloadFolder(path))
         return false;
     const ZConfig &structure = Tambro::folderStructure();
-    parentPath = structure.readEntry(Tambro::toPreloadTagForm(path), QStringLiteral("parent_path"),
-                                     QString());
-    if (parentPath.isEmpty())
+    const QString parent = structure.readEntry(Tambro::toPreloadTagForm(path), QStringLiteral("parent_path"),
+                                               QString());
+    const std::optional<QString> real = parent.isEmpty() ? std::nullopt : realFolderPath(parent);
+    parentPath = real.value_or(QString());
+    if (!real)
         return false;
     // No fallback to the folder's own name here: an untranslated parent stays unnamed.
-    parentName = Tambro::translateLatin1(
-        structure.readEntry(parentPath, QStringLiteral("res_str"), QString()),
-        structure.readEntry(parentPath, QStringLiteral("dis_str"), QString()));
-    parentPath = realFolderPath(parentPath);
+    parentName = Tambro::translateLatin1(structure.readEntry(parent, QStringLiteral("res_str"), QString()),
+                                         structure.readEntry(parent, QStringLiteral("dis_str"), QString()));
     return true;
 }
 

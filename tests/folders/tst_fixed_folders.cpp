@@ -16,11 +16,11 @@ namespace {
 const QString Root = QStringLiteral("/kivlocal/download/tambro/root");
 const QString Alpha = Root + QStringLiteral("/alpha");
 
-// Every file below the folder, by its path relative to the folder.
-QStringList filesBelow(const QString &folder)
+// Every file (or entry) below the folder, by its path relative to the folder.
+QStringList filesBelow(const QString &folder, QDir::Filters filter = QDir::Files | QDir::Hidden)
 {
     QStringList files;
-    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    QDirIterator it(folder, filter, QDirIterator::Subdirectories);
     while (it.hasNext())
         files << QDir(folder).relativeFilePath(it.next());
     files.sort();
@@ -171,6 +171,24 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(Root + "/zeta").isDir()); // "../zeta" is no name to free
     }
 
+    // A structure file whose folders lead out of the root (toward the card,
+    // where user folders bear their display names) makes and moves nothing
+    // there: those folders are absent, the ones that come back are kept.
+    void foldersOutsideTheRootAreAbsent()
+    {
+        const QString root = TAMBRO_FixedFolder::m_sFMRootPath;
+        QCOMPARE(TAMBRO_FixedFolder::getPathByKey("escape"), root + "/pseudo");
+        QCOMPARE(TAMBRO_FixedFolder::getPathByKey("image"), root);
+        QCOMPARE(TAMBRO_FixedFolder::getPathByKey("kept"), root + "/in/../kept");
+        QCOMPARE(described(TAMBRO_FixedFolder::getFixedFolderList(root)),
+                 QStringList{"kept|fm_folder_small.gif|" + root + "/in/../kept"});
+        QString parent;
+        QVERIFY(!TAMBRO_FixedFolder::getPreloadFolderParent("/usr/data_resource/shown", parent, parent));
+        QCOMPARE(filesBelow("/mmc/mmca1", QDir::AllEntries | QDir::NoDotAndDotDot),
+                 (QStringList{"Other", "Other/keep.txt", "Victim", "Victim/keep.txt", "Y", "Y/keep.txt"}));
+        QCOMPARE(QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot), (QStringList{"in", "kept", "pseudo"}));
+    }
+
     void readOnlyStorageKeepsEverything()
     {
         const QString named = TAMBRO_FixedFolder::m_sFMRootPath + "/Alpha Folder";
@@ -184,6 +202,7 @@ private Q_SLOTS:
 
 KIVTAMBRO_SCENARIO_MAIN(TestFixedFolders,
                         {{"readOnlyStorageKeepsEverything",
-                          {QString(), {"TAMBRO_DATA_PATH=/usr/SYSqtapp/tambro/root"}}}},
+                          {QString(), {"TAMBRO_DATA_PATH=/usr/SYSqtapp/tambro/root"}}},
+                         {"foldersOutsideTheRootAreAbsent", {QStringLiteral(HOSTILE_STRUCTURE_DEVICE), {}}}},
                         QStringLiteral(STRUCTURE_DEVICE))
 #include "tst_fixed_folders.moc"

@@ -45,7 +45,8 @@ run_tests() {
 # instrumented: the rest is covered above.
 build_fuzz_targets() {
     CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DKIVTAMBRO_FUZZ=ON >/dev/null
-    cmake --build build-fuzz --target config_fuzz mount_table_fuzz validator_fuzz recipient_fuzz filter_fuzz
+    cmake --build build-fuzz --target config_fuzz mount_table_fuzz validator_fuzz recipient_fuzz filter_fuzz \
+        device_file_fuzz sandbox_fuzz java_descriptor_fuzz bookmark_fuzz journal_fuzz
 }
 
 # fuzz TARGET LIBFUZZER-OPTION...: fuzzes on a scratch copy of the target's
@@ -128,11 +129,17 @@ test)
     UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
         run_tests build-sanitize
     build_fuzz_targets
-    fuzz config_fuzz -max_total_time=60
-    fuzz mount_table_fuzz -max_total_time=30
-    fuzz validator_fuzz -max_total_time=30
+    # About 3.5 minutes in all, so that the whole run stays well under 20.
+    fuzz config_fuzz -max_total_time=35
+    fuzz mount_table_fuzz -max_total_time=25
+    fuzz validator_fuzz -max_total_time=25
     fuzz recipient_fuzz -max_total_time=15
-    fuzz filter_fuzz -max_total_time=30
+    fuzz filter_fuzz -max_total_time=25
+    fuzz device_file_fuzz -max_total_time=15
+    fuzz sandbox_fuzz -max_total_time=15
+    fuzz java_descriptor_fuzz -max_total_time=15
+    fuzz bookmark_fuzz -max_total_time=15
+    fuzz journal_fuzz -max_total_time=15
     ;;
 coverage)
     packages="$packages gcovr"

@@ -6,36 +6,11 @@
 #include "keyfile.h"
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <sys/mman.h>
-#include <unistd.h>
-
-namespace {
-
-// The input as a file that lives in memory, so that millions of runs do not touch the disk.
-const QString &asFile(const uint8_t *data, size_t size)
-{
-    static const int fd = memfd_create("config_fuzz", 0);
-    static const QString path = QStringLiteral("/proc/self/fd/%1").arg(fd);
-    check(fd >= 0 && ftruncate(fd, 0) == 0, "cannot use an in-memory file");
-    for (size_t done = 0; done < size;) {
-        const ssize_t written = pwrite(fd, data + done, size - done, off_t(done));
-        check(written > 0, "cannot write the in-memory file");
-        done += size_t(written);
-    }
-    return path;
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    // Warnings about bad lines would bury the fuzzer's own output.
-    static const QtMessageHandler quiet = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    Q_UNUSED(quiet);
-    const QByteArray input = QByteArray::fromRawData(reinterpret_cast<const char *>(data), qsizetype(size));
-    const KeyFile file = KeyFile::parse(input, QStringLiteral("fuzz"));
+    quietMessages();
+    const KeyFile file = KeyFile::parse(bytes(data, size), QStringLiteral("fuzz"));
     const ZConfig config(asFile(data, size), false);
     for (const KeyFile::Section &section : file.sections()) {
         // Names are kept as written, but never hold what ends or breaks a header.

@@ -135,8 +135,7 @@ private Q_SLOTS:
         QCOMPARE(links, (QStringList{"kept", "camera", "image", "camera"}));
         QVERIFY(!TAMBRO_FixedFolder::getInvLink(Root + "/zeta", links));
         FixedFolder folder;
-        QVERIFY(TAMBRO_GetFixedFolderInfoByName(Alpha, folder));
-        QCOMPARE(folder.displayName, QStringLiteral("Alpha Folder"));
+        QVERIFY(TAMBRO_GetFixedFolderInfoByName(Alpha, folder) && folder.displayName == u"Alpha Folder");
     }
 
     // The user's folder bearing a fixed subfolder's display name moves to the
@@ -171,9 +170,8 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(Root + "/zeta").isDir()); // "../zeta" is no name to free
     }
 
-    // A structure file whose folders lead out of the root (toward the card,
-    // where user folders bear their display names) makes and moves nothing
-    // there: those folders are absent, the ones that come back are kept.
+    // Folders that lead out of the root (to the card, where user folders bear
+    // their display names) are absent: nothing is made or moved there.
     void foldersOutsideTheRootAreAbsent()
     {
         const QString root = TAMBRO_FixedFolder::m_sFMRootPath;

@@ -12,18 +12,14 @@
 
 namespace {
 
-// Owner and group of the phone's user files, so that every application may
-// write into the fixed folders whichever process created them.
-constexpr uid_t FolderOwner = 2000;
-constexpr gid_t FolderGroup = 233;
-
 void makeFolder(const QString &path)
 {
     if (QFileInfo(path).isDir())
         return;
     // Only a folder made here is handed over: a file of that name keeps its owner.
     if (QDir().mkdir(path))
-        (void)::chown(QFile::encodeName(path).constData(), FolderOwner, FolderGroup);
+        (void)::chown(QFile::encodeName(path).constData(), KivPaths::UserFilesOwner,
+                      KivPaths::UserFilesGroup);
 }
 
 } // namespace

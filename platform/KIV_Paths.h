@@ -23,4 +23,9 @@ inline constexpr char FileManagerDeviceFolder[] = "/usr/data_resource/tambro";
 // The folder structure file, in either folder.
 inline constexpr char FolderStructureFileName[] = "kiv_tambrostruct.cfg";
 
+// Owner and group of the phone's user files, so that every application may
+// write into the fixed folders whichever process created them.
+inline constexpr unsigned UserFilesOwner = 2000;
+inline constexpr unsigned UserFilesGroup = 233;
+
 } // namespace KivPaths

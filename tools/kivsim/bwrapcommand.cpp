@@ -2,10 +2,18 @@
 
 #include "hostview.h"
 #include "phonelayout.h"
+#include "sandboxrunner.h"
 #include "shellquote.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+
+#include <cerrno>
+#include <climits>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -37,24 +45,95 @@ QStringList entriesUsedIn(const QString &folder, const QStringList &paths)
     return names;
 }
 
+// Where an open file is, all links resolved.
+QString pathOf(int fd)
+{
+    QByteArray target(PATH_MAX, Qt::Uninitialized);
+    const QByteArray link = "/proc/self/fd/" + QByteArray::number(fd);
+    const ssize_t length = ::readlink(link.constData(), target.data(), size_t(target.size()));
+    target.truncate(length < 0 ? 0 : qsizetype(length));
+    return QFile::decodeName(target);
+}
+
+// The path with its links resolved where it exists; else as written, cleaned.
+QString resolvedPath(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString real = info.canonicalFilePath();
+    return real.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : real;
+}
+
+// The capabilities that the phone's programs keep when kivsim runs as root:
+// making the fixed folders the phone's user's, and writing in any storage
+// folder. No mount, no device, nothing of another process.
+const QStringList programCapabilities = {QStringLiteral("chown"),
+                                         QStringLiteral("dac_override")};
+// Those the start script needs on top, to hand over to the phone's user.
+const QStringList startCapabilities = {QStringLiteral("CAP_SETUID"), QStringLiteral("CAP_SETGID"),
+                                       QStringLiteral("CAP_SETPCAP")};
+
 } // namespace
 
 BwrapCommand::BwrapCommand(const QString &deviceCopy, const SandboxSettings &settings)
-    : m_deviceCopy(deviceCopy), m_settings(settings)
+    : m_deviceCopy(deviceCopy), m_settings(settings), m_asRoot(::geteuid() == 0)
 {
 }
 
-QString BwrapCommand::revealHostPath(const QString &path, Access access)
+BwrapCommand::~BwrapCommand()
 {
-    const QString cleaned = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    if (access == Access::ReadOnly && !sandboxHides(cleaned))
-        return QString();
-    const QString clash = PhoneLayout::clashWithPhone(cleaned, phonePlaces());
-    if (!clash.isEmpty())
+    for (const Revealed &revealed : std::as_const(m_revealed)) {
+        if (revealed.fd >= 0)
+            ::close(revealed.fd);
+    }
+}
+
+void BwrapCommand::protectFolder(const QString &folder)
+{
+    m_protectedFolder = resolvedPath(folder);
+}
+
+QString BwrapCommand::revealHostPath(const QString &path, Access access, int openFile)
+{
+    if (access == Access::ReadOnly) {
+        const QString resolved = resolvedPath(path);
+        if (!sandboxHides(resolved))
+            return QString();
+        const QString clash = clashOf(resolved, access);
+        if (clash.isEmpty() && !m_revealed.contains(resolved))
+            m_revealed.insert(resolved, Revealed{});
         return clash;
-    if (m_revealed.value(cleaned, Access::ReadOnly) == Access::ReadOnly)
-        m_revealed.insert(cleaned, access);
+    }
+    const int fd = openFile >= 0
+        ? ::fcntl(openFile, F_DUPFD_CLOEXEC, 0)
+        : ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
+    if (fd < 0)
+        return QString::fromLocal8Bit(std::strerror(errno));
+    const QString resolved = pathOf(fd);
+    const QString clash = clashOf(resolved, access);
+    if (!clash.isEmpty() || m_revealed.value(resolved).fd >= 0) {
+        ::close(fd);
+        return clash;
+    }
+    m_revealed.insert(resolved, Revealed{access, fd});
     return QString();
+}
+
+QList<int> BwrapCommand::descriptors() const
+{
+    QList<int> fds;
+    for (const Revealed &revealed : m_revealed) {
+        if (revealed.fd >= 0)
+            fds << revealed.fd;
+    }
+    return fds;
+}
+
+QString BwrapCommand::clashOf(const QString &path, Access access) const
+{
+    if (access == Access::ReadWrite && !m_protectedFolder.isEmpty()
+        && isWithin(path, m_protectedFolder))
+        return QStringLiteral("%1 lies in the device folder, which a run never changes").arg(path);
+    return PhoneLayout::clashWithPhone(path, phonePlaces());
 }
 
 void BwrapCommand::useOwnRuntimeFolder()
@@ -81,8 +160,11 @@ QStringList BwrapCommand::arguments(const QStringList &command) const
     // host paths never overlap the phone's places, so bwrap makes no mount
     // point in a host folder. In a namespace of its own the command's whole
     // process tree ends with bwrap, which dies with kivsim.
-    return QStringList{QStringLiteral("--unshare-pid"), QStringLiteral("--die-with-parent")}
-        + hostArguments() + revealArguments() + deviceArguments() + storageArguments()
+    // A session of its own, so that the command cannot push input into the
+    // caller's terminal (TIOCSTI).
+    return QStringList{QStringLiteral("--unshare-pid"), QStringLiteral("--die-with-parent"),
+                       QStringLiteral("--new-session")}
+        + privilegeArguments() + hostArguments() + revealArguments() + deviceArguments() + storageArguments()
         + QStringList{QStringLiteral("--remount-ro"), QStringLiteral("/")} + processArguments()
         + QStringList{QStringLiteral("--"), QStringLiteral("/bin/sh"), QStringLiteral("-c"),
                       fillScript(), QStringLiteral("kivsim")}
@@ -143,14 +225,36 @@ QStringList BwrapCommand::storageArguments() const
     return arguments;
 }
 
+// bwrap as root keeps every capability unless told: the start script keeps
+// what it needs to hand the command over to the phone's user.
+QStringList BwrapCommand::privilegeArguments() const
+{
+    if (!m_asRoot)
+        return QStringList();
+    QStringList arguments = {QStringLiteral("--cap-drop"), QStringLiteral("ALL")};
+    for (const QString &capability : programCapabilities)
+        arguments << QStringLiteral("--cap-add") << QStringLiteral("CAP_") + capability.toUpper();
+    for (const QString &capability : startCapabilities)
+        arguments << QStringLiteral("--cap-add") << capability;
+    return arguments;
+}
+
+// Writable paths by the descriptor that was judged; the protected folder
+// read-only again over a writable folder that holds it.
 QStringList BwrapCommand::revealArguments() const
 {
     QStringList arguments;
+    bool protectedFolderExposed = false;
     for (auto it = m_revealed.cbegin(); it != m_revealed.cend(); ++it) {
-        const bool writable = it.value() == Access::ReadWrite;
-        arguments << (writable ? QStringLiteral("--bind-try") : QStringLiteral("--ro-bind-try"))
-                  << it.key() << it.key();
+        if (it->access == Access::ReadOnly) {
+            arguments << QStringLiteral("--ro-bind-try") << it.key() << it.key();
+            continue;
+        }
+        arguments << QStringLiteral("--bind-fd") << QString::number(it->fd) << it.key();
+        protectedFolderExposed |= !m_protectedFolder.isEmpty() && isWithin(m_protectedFolder, it.key());
     }
+    if (protectedFolderExposed)
+        arguments << QStringLiteral("--ro-bind") << m_protectedFolder << m_protectedFolder;
     return arguments;
 }
 
@@ -178,6 +282,18 @@ QString BwrapCommand::fillScript() const
                      .arg(shellQuote(source), shellQuote(storage.mountPoint),
                           shellQuote(storage.description));
     }
-    lines << QStringLiteral("exec \"$@\"");
+    lines << QStringLiteral("printf started >&%1; exec %1>&-").arg(CommandStartedFd);
+    if (!m_asRoot) {
+        lines << QStringLiteral("exec \"$@\"");
+        return lines.join(u'\n');
+    }
+    // As the phone's user, with only the capabilities it needs: the host's
+    // device nodes and the caller's terminal, root's, are then not its own.
+    const QString capabilities = QStringLiteral("-all,+") + programCapabilities.join(QStringLiteral(",+"));
+    lines << QStringLiteral("exec setpriv --reuid=%1 --regid=%2 --clear-groups --no-new-privs "
+                            "--inh-caps=%3 --ambient-caps=%3 --bounding-set=%3 -- \"$@\"")
+                 .arg(KivPaths::UserFilesOwner)
+                 .arg(KivPaths::UserFilesGroup)
+                 .arg(capabilities);
     return lines.join(u'\n');
 }

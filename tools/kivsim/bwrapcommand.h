@@ -16,13 +16,24 @@ public:
 
     // deviceCopy: the host folder holding the run's copy of the device folder.
     BwrapCommand(const QString &deviceCopy, const SandboxSettings &settings);
+    ~BwrapCommand();
+    BwrapCommand(const BwrapCommand &) = delete;
+    BwrapCommand &operator=(const BwrapCommand &) = delete;
 
-    // Shows a host path (a folder or a file) at the same place inside. The
-    // host is visible read-only anyway, so a read-only path is bound only
-    // where the sandbox hides the host (under /tmp and /run); a writable one
-    // is always bound. A path that would hide a place of the phone or lie in
-    // one is not shown: why, else an empty text.
-    QString revealHostPath(const QString &path, Access access);
+    // The host folder that no run may change, whatever it shares: the device
+    // folder. A writable path in it is refused; one that holds it keeps it
+    // read-only.
+    void protectFolder(const QString &folder);
+
+    // Shows a host path (a folder or a file) at the same place inside, judged
+    // by where it leads once its links are resolved. The host is visible
+    // read-only anyway, so a read-only path is bound only where the sandbox
+    // hides the host (under /tmp and /run); a writable one is always bound,
+    // by a descriptor opened before it is judged, so that what was judged is
+    // what is bound (openFile: one opened already, which is used instead). A
+    // path that would hide a place of the phone or lie in one, or a writable
+    // one in the protected folder, is not shown: why, else an empty text.
+    QString revealHostPath(const QString &path, Access access, int openFile = -1);
     // Gives the command a private runtime folder of the sandbox's own, for
     // when the host's cannot be shared.
     void useOwnRuntimeFolder();
@@ -32,6 +43,8 @@ public:
     // Everything after "bwrap": the sandbox, then the command, which starts
     // once the storages hold the device's content.
     QStringList arguments(const QStringList &command) const;
+    // The descriptors that the arguments name, for bwrap to inherit.
+    QList<int> descriptors() const;
 
 private:
     QStringList phonePlaces() const;
@@ -40,11 +53,20 @@ private:
     QStringList storageArguments() const;
     QStringList revealArguments() const;
     QStringList processArguments() const;
+    QStringList privilegeArguments() const;
+    QString clashOf(const QString &path, Access access) const;
     QString fillScript() const;
 
     QString m_deviceCopy;
     SandboxSettings m_settings;
-    QMap<QString, Access> m_revealed; // sorted, so that a parent is bound before its children
+    struct Revealed
+    {
+        Access access = Access::ReadOnly;
+        int fd = -1; // for a writable one
+    };
+    QMap<QString, Revealed> m_revealed; // sorted, so that a parent is bound before its children
+    QString m_protectedFolder;
+    bool m_asRoot = false;
     QList<QPair<QString, QString>> m_environment;
     QString m_workingDirectory;
     bool m_ownRuntimeFolder = false;

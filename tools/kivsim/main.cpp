@@ -2,6 +2,7 @@
 // folder describes (see docs/devices.md).
 
 #include "bwrapcommand.h"
+#include "childprocess.h"
 #include "confinedpath.h"
 #include "devicecopy.h"
 #include "exitcodes.h"
@@ -10,6 +11,7 @@
 #include "sandboxsettings.h"
 #include "shellquote.h"
 
+#include "printable/printable_text.h"
 #include "simplatform/keyfile.h"
 
 #include <QCommandLineParser>
@@ -17,6 +19,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFile>
+#include <QStandardPaths>
 #include <QTextStream>
 
 #include <cerrno>
@@ -38,10 +41,17 @@ struct Invocation
     QStringList shared; // host folders the command may write
 };
 
-QTextStream &err()
+// Every line kivsim writes, escaped: paths and values come from device
+// files and from other users' folders, and must not drive the terminal.
+void report(const QString &message)
 {
-    static QTextStream stream(stderr);
-    return stream;
+    QTextStream(stderr) << "kivsim: " << printableText(message) << Qt::endl;
+}
+
+void reportUsage(const QString &message)
+{
+    report(message);
+    QTextStream(stderr) << "Try 'kivsim --help'." << Qt::endl;
 }
 
 std::optional<Invocation> parseArguments(const QStringList &arguments)
@@ -75,13 +85,13 @@ std::optional<Invocation> parseArguments(const QStringList &arguments)
                                  QStringLiteral("-- COMMAND [ARG...]"));
 
     if (!parser.parse(arguments)) {
-        err() << "kivsim: " << parser.errorText() << "\nTry 'kivsim --help'." << Qt::endl;
+        reportUsage(parser.errorText());
         return std::nullopt;
     }
     if (parser.isSet(help))
         parser.showHelp(0);
     if (parser.positionalArguments().isEmpty()) {
-        err() << "kivsim: no command given\nTry 'kivsim --help'." << Qt::endl;
+        reportUsage(QStringLiteral("no command given"));
         return std::nullopt;
     }
     return Invocation{parser.value(device), parser.positionalArguments(), parser.isSet(verbose),
@@ -91,12 +101,11 @@ std::optional<Invocation> parseArguments(const QStringList &arguments)
 bool isDeviceFolder(const QString &folder)
 {
     if (!QFileInfo(folder).isDir()) {
-        err() << "kivsim: no device folder at " << folder << Qt::endl;
+        report(QStringLiteral("no device folder at ") + folder);
         return false;
     }
     if (!QFileInfo(QDir(folder).filePath(QStringLiteral("device.ini"))).isFile()) {
-        err() << "kivsim: " << folder << " is not a device folder: it has no device.ini"
-              << Qt::endl;
+        report(folder + QStringLiteral(" is not a device folder: it has no device.ini"));
         return false;
     }
     return true;
@@ -109,7 +118,7 @@ SandboxSettings readSettings(const QString &deviceFolder)
     QStringList warnings = device.warnings();
     const SandboxSettings settings = SandboxSettings::from(device, path, warnings);
     for (const QString &warning : std::as_const(warnings))
-        err() << "kivsim: warning: " << warning << Qt::endl;
+        report(QStringLiteral("warning: ") + warning);
     return settings;
 }
 
@@ -123,21 +132,34 @@ bool writeFolderFits(const SandboxSettings &settings)
                          : PhoneLayout::clashWithPhone(folder, PhoneLayout::fixedPlaces(settings));
     if (clash.isEmpty())
         return true;
-    err() << "kivsim: write_path \"" << settings.writePath << "\" cannot be used: " << clash
-          << Qt::endl;
+    report(QStringLiteral("write_path \"%1\" cannot be used: %2").arg(settings.writePath, clash));
     return false;
+}
+
+// Why an entry of the device folder cannot be bound or filled from: the mount
+// table must be a file, the others folders, where they are at all.
+QString wrongKindOf(const QString &entry, const QString &resolved, bool isMountTable)
+{
+    const QFileInfo info(resolved);
+    if (!info.exists() || info.isDir() == !isMountTable)
+        return QString();
+    return isMountTable ? QStringLiteral("its mount table \"%1\" is not a file").arg(entry)
+                        : QStringLiteral("\"%1\" is not a folder").arg(entry);
 }
 
 // The entries the sandbox binds or fills from must lie in the copy: a link to
 // the host would let the command write host files through /etc/mtab. The
-// mount table is then named by its resolved path.
+// mount table is then named by its resolved path. Only the caller can reach
+// into the copy, so what is checked here is what is bound.
 bool confineDeviceEntries(const QString &copy, SandboxSettings &settings)
 {
     for (const QString &entry : PhoneLayout::deviceEntries(settings)) {
         QString error;
         const std::optional<QString> resolved = resolveInside(copy, entry, error);
-        if (!resolved) {
-            err() << "kivsim: cannot use the device folder: " << error << Qt::endl;
+        if (resolved)
+            error = wrongKindOf(entry, *resolved, entry == settings.mountTable);
+        if (!error.isEmpty()) {
+            report(QStringLiteral("cannot use the device folder: ") + error);
             return false;
         }
         if (entry == settings.mountTable)
@@ -149,49 +171,61 @@ bool confineDeviceEntries(const QString &copy, SandboxSettings &settings)
 bool prepareCopy(const QString &deviceFolder, DeviceCopy &copy, SandboxSettings &settings)
 {
     if (!copy.fill(deviceFolder)) {
-        err() << "kivsim: cannot copy the device folder: " << copy.error() << Qt::endl;
+        if (endingSignal() != 0)
+            return false; // asked to end, not failed
+        report(QStringLiteral("cannot copy the device folder: ") + copy.error());
         return false;
     }
     const QString mountTable = settings.mountTable;
     if (!confineDeviceEntries(copy.path(), settings))
         return false;
     if (!ensureMountTable(QDir(copy.path()).filePath(settings.mountTable)))
-        err() << "kivsim: warning: the device folder has no mount table \"" << mountTable
-              << "\"; " << PhoneLayout::mountTable << " starts empty" << Qt::endl;
+        report(QStringLiteral("warning: the device folder has no mount table \"%1\"; %2 starts empty")
+                   .arg(mountTable, PhoneLayout::mountTable));
     return true;
 }
 
-// Makes the journal file when missing: only the file is shared, so that the
-// command can write nothing else beside it. On failure error says why.
-void createJournal(const QString &path, QString &error)
+// Opens the journal file, made when missing, as a regular file that is no
+// symbolic link; its folder's links are resolved. -1 with why in error.
+int openJournal(const QString &path, QString &error)
 {
-    if (!QDir().mkpath(QFileInfo(path).path())) {
+    const QFileInfo file(path);
+    if (!QDir().mkpath(file.path())) {
         error = QStringLiteral("cannot create its folder");
-        return;
+        return -1;
     }
-    const int fd = ::open(QFile::encodeName(path).constData(),
-                          O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK | O_CLOEXEC, 0644);
+    const QString resolved = QFileInfo(file.path()).canonicalFilePath() + u'/' + file.fileName();
+    const int fd = ::open(QFile::encodeName(resolved).constData(),
+                          O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC, 0644);
     struct stat info;
     if (fd < 0)
-        error = QString::fromLocal8Bit(std::strerror(errno));
+        error = errno == ELOOP ? QStringLiteral("it is a symbolic link")
+                               : QString::fromLocal8Bit(std::strerror(errno));
     else if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))
         error = QStringLiteral("not a regular file");
-    if (fd >= 0)
+    if (fd >= 0 && !error.isEmpty()) {
         ::close(fd);
+        return -1;
+    }
+    return fd;
 }
 
-// The journal of platform calls lands on the host, at the path given.
+// The journal of platform calls lands on the host, at the path given: only
+// the file is shared, so that the command can write nothing else beside it.
 bool shareJournal(BwrapCommand &command)
 {
     const QString journal = qEnvironmentVariable("KIVSIM_JOURNAL");
     if (journal.isEmpty())
         return true;
     const QString path = QDir::cleanPath(QFileInfo(journal).absoluteFilePath());
-    QString error = command.revealHostPath(path, BwrapCommand::Access::ReadWrite);
-    if (error.isEmpty())
-        createJournal(path, error);
+    QString error;
+    const int fd = openJournal(path, error);
+    if (fd >= 0) {
+        error = command.revealHostPath(path, BwrapCommand::Access::ReadWrite, fd);
+        ::close(fd);
+    }
     if (!error.isEmpty()) {
-        err() << "kivsim: cannot use the journal " << path << ": " << error << Qt::endl;
+        report(QStringLiteral("cannot use the journal %1: %2").arg(path, error));
         return false;
     }
     command.setEnvironment(QStringLiteral("KIVSIM_JOURNAL"), path);
@@ -202,7 +236,7 @@ bool canShare(const QStringList &folders)
 {
     for (const QString &folder : folders) {
         if (!QFileInfo(folder).isDir()) {
-            err() << "kivsim: cannot share " << folder << ": no such folder" << Qt::endl;
+            report(QStringLiteral("cannot share %1: no such folder").arg(folder));
             return false;
         }
     }
@@ -214,7 +248,7 @@ bool shareFolders(BwrapCommand &command, const QStringList &folders)
     for (const QString &folder : folders) {
         const QString clash = command.revealHostPath(folder, BwrapCommand::Access::ReadWrite);
         if (!clash.isEmpty()) {
-            err() << "kivsim: cannot share " << folder << ": " << clash << Qt::endl;
+            report(QStringLiteral("cannot share %1: %2").arg(folder, clash));
             return false;
         }
     }
@@ -235,8 +269,9 @@ void shareWindowSystem(BwrapCommand &command)
     if (clash.isEmpty())
         return;
     if (!runtimeDir.isEmpty())
-        err() << "kivsim: warning: XDG_RUNTIME_DIR=" << runtimeDir << " is not shared: " << clash
-              << "; the command gets a runtime folder of its own" << Qt::endl;
+        report(QStringLiteral("warning: XDG_RUNTIME_DIR=%1 is not shared: %2; the command gets a "
+                              "runtime folder of its own")
+                   .arg(runtimeDir, clash));
     command.useOwnRuntimeFolder();
 }
 
@@ -290,10 +325,29 @@ void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
         command.revealHostPath(program.absoluteFilePath(), BwrapCommand::Access::ReadOnly);
 }
 
+// As root, the start script hands the command over to the phone's user.
+bool canHandOver()
+{
+    if (::geteuid() != 0 || !QStandardPaths::findExecutable(QStringLiteral("setpriv")).isEmpty())
+        return true;
+    report(QStringLiteral("cannot run as root without setpriv (util-linux) to hand the command "
+                          "over to the phone's user"));
+    return false;
+}
+
+// Why the sandbox was not set up: a signal that asked kivsim to end, or a
+// failure already reported.
+int setupStopped()
+{
+    return endingSignal() != 0 ? 128 + endingSignal() : int(ExitCode::SetupFailed);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    // From the very start, so that a signal never leaves a copy behind.
+    catchEndingSignals();
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kivsim"));
 
@@ -301,20 +355,22 @@ int main(int argc, char *argv[])
     if (!invocation || !isDeviceFolder(invocation->deviceFolder) || !canShare(invocation->shared))
         return ExitCode::Usage;
     SandboxSettings settings = readSettings(invocation->deviceFolder);
-    if (!writeFolderFits(settings))
+    if (!writeFolderFits(settings) || !canHandOver())
         return ExitCode::SetupFailed;
 
+    removeOrphanedCopies();
     DeviceCopy copy;
     if (copy.path().isEmpty()) {
-        err() << "kivsim: cannot create a temporary folder: " << copy.error() << Qt::endl;
+        report(QStringLiteral("cannot create a temporary folder: ") + copy.error());
         return ExitCode::SetupFailed;
     }
     if (invocation->keep)
         copy.keep();
     if (!prepareCopy(invocation->deviceFolder, copy, settings))
-        return ExitCode::SetupFailed;
+        return setupStopped();
 
     BwrapCommand command(copy.path(), settings);
+    command.protectFolder(invocation->deviceFolder);
     if (!shareFolders(command, invocation->shared))
         return ExitCode::Usage;
     if (!shareJournal(command))
@@ -325,9 +381,10 @@ int main(int argc, char *argv[])
 
     const QStringList arguments = command.arguments(invocation->command);
     if (invocation->verbose || invocation->keep)
-        err() << "kivsim: device copy: " << copy.path() << " (" << PhoneLayout::deviceFolder
-              << " inside)" << Qt::endl;
+        report(QStringLiteral("device copy: %1 (%2 inside)").arg(copy.path(), PhoneLayout::deviceFolder));
     if (invocation->verbose)
-        err() << "kivsim: bwrap " << shellQuote(arguments) << Qt::endl;
-    return runSandbox(QStringLiteral("bwrap"), arguments);
+        report(QStringLiteral("bwrap ") + shellQuote(arguments));
+    if (endingSignal() != 0)
+        return setupStopped();
+    return runSandbox(QStringLiteral("bwrap"), arguments, command.descriptors());
 }

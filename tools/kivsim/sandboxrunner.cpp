@@ -1,5 +1,6 @@
 #include "sandboxrunner.h"
 
+#include "childprocess.h"
 #include "exitcodes.h"
 
 #include <QFile>
@@ -7,82 +8,43 @@
 #include <QTextStream>
 
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace {
 
-const int forwardedSignals[] = {SIGHUP, SIGINT, SIGQUIT, SIGTERM};
-
-volatile sig_atomic_t bwrapPid = 0;
-volatile sig_atomic_t pendingSignal = 0;
-
-void forwardSignal(int signal)
-{
-    if (bwrapPid > 0)
-        ::kill(pid_t(bwrapPid), signal);
-    else
-        pendingSignal = signal;
-}
-
-// Signals meant for kivsim go to bwrap, whose death ends the command too
-// (--die-with-parent); kivsim itself lives on to remove the device copy.
-class SignalForwarding
+// The start script writes on this pipe just before it starts the command:
+// without that word, bwrap's exit status is its own failure, not the
+// command's. (bwrap's own status reports a child that has yet to set up
+// the sandbox, which can still fail.)
+class StartedPipe
 {
 public:
-    SignalForwarding()
+    StartedPipe()
     {
-        struct sigaction action = {};
-        action.sa_handler = forwardSignal;
-        sigemptyset(&action.sa_mask);
-        for (size_t i = 0; i < std::size(forwardedSignals); ++i)
-            sigaction(forwardedSignals[i], &action, &m_previous[i]);
+        if (::pipe2(m_fds, O_CLOEXEC) != 0)
+            m_fds[0] = m_fds[1] = -1;
     }
-    ~SignalForwarding()
-    {
-        for (size_t i = 0; i < std::size(forwardedSignals); ++i)
-            sigaction(forwardedSignals[i], &m_previous[i], nullptr);
-        bwrapPid = 0;
-        pendingSignal = 0;
-    }
-    SignalForwarding(const SignalForwarding &) = delete;
-    SignalForwarding &operator=(const SignalForwarding &) = delete;
-
-    // A signal that came before bwrap was running is passed on now.
-    void setTarget(pid_t pid)
-    {
-        bwrapPid = pid;
-        if (pendingSignal != 0)
-            ::kill(pid, pendingSignal);
-    }
-
-private:
-    struct sigaction m_previous[std::size(forwardedSignals)];
-};
-
-// bwrap reports on this pipe once the command has been started; without that
-// report its exit status is its own failure, not the command's.
-class StatusPipe
-{
-public:
-    StatusPipe()
-    {
-        if (::pipe2(m_fds, O_CLOEXEC) == 0)
-            ::fcntl(m_fds[1], F_SETFD, 0); // the write end goes to bwrap
-    }
-    ~StatusPipe()
+    ~StartedPipe()
     {
         closeWriteEnd();
         if (m_fds[0] >= 0)
             ::close(m_fds[0]);
     }
-    StatusPipe(const StatusPipe &) = delete;
-    StatusPipe &operator=(const StatusPipe &) = delete;
+    StartedPipe(const StartedPipe &) = delete;
+    StartedPipe &operator=(const StartedPipe &) = delete;
 
     bool isValid() const { return m_fds[0] >= 0; }
-    int writeEnd() const { return m_fds[1]; }
+    // Runs in the child between fork and exec: the write end at the agreed
+    // number, without close-on-exec.
+    void giveToChild() const
+    {
+        if (m_fds[1] == CommandStartedFd)
+            ::fcntl(CommandStartedFd, F_SETFD, 0);
+        else
+            ::dup2(m_fds[1], CommandStartedFd);
+    }
     void closeWriteEnd()
     {
         if (m_fds[1] >= 0)
@@ -93,9 +55,8 @@ public:
     {
         closeWriteEnd();
         QFile status;
-        if (!status.open(m_fds[0], QIODevice::ReadOnly, QFileDevice::DontCloseHandle))
-            return false;
-        return status.readAll().contains("\"child-pid\"");
+        return status.open(m_fds[0], QIODevice::ReadOnly, QFileDevice::DontCloseHandle)
+            && !status.readAll().isEmpty();
     }
 
 private:
@@ -110,28 +71,24 @@ int setupFailed(const QString &why)
 
 } // namespace
 
-int runSandbox(const QString &bwrap, const QStringList &arguments)
+int runSandbox(const QString &bwrap, const QStringList &arguments, const QList<int> &descriptors)
 {
-    StatusPipe status;
-    if (!status.isValid())
+    StartedPipe started;
+    if (!started.isValid())
         return setupFailed(QStringLiteral("cannot create a pipe: %1")
                                .arg(QString::fromLocal8Bit(::strerror(errno))));
-
-    SignalForwarding forwarding;
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedChannels);
     process.setInputChannelMode(QProcess::ForwardedInputChannel);
-    process.start(bwrap,
-                  QStringList{QStringLiteral("--json-status-fd"),
-                              QString::number(status.writeEnd())}
-                      + arguments);
-    if (!process.waitForStarted(-1))
+    process.setChildProcessModifier([&started, &descriptors] {
+        started.giveToChild();
+        for (const int fd : descriptors)
+            ::fcntl(fd, F_SETFD, 0);
+    });
+    if (!runChild(process, bwrap, arguments))
         return setupFailed(QStringLiteral("cannot run %1: %2 (is bubblewrap installed?)")
                                .arg(bwrap, process.errorString()));
-    status.closeWriteEnd();
-    forwarding.setTarget(pid_t(process.processId()));
-    process.waitForFinished(-1);
-    if (!status.commandStarted())
+    if (!started.commandStarted())
         return setupFailed(QStringLiteral("bwrap could not set up the sandbox"));
     // On a crash exit QProcess keeps the number of the signal as the exit code.
     if (process.exitStatus() == QProcess::CrashExit)

@@ -9,7 +9,10 @@
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
+    // Qt is handed no argument of the user's: it would take its own options
+    // (-platform, ...) out of them, and a folder may have such a name.
+    int qtArgc = 1;
+    QApplication application(qtArgc, argv);
     TAMBRO_Global::instance();
     TAMBRO_FixedFolder::initialize(); // the fixed folders exist before the first listing
     MainWindow window;

@@ -211,7 +211,9 @@ void MainWindow::warn(const QString &text)
 
 bool MainWindow::mayChange(const QString &path)
 {
-    if (!TAMBRO_FixedFolder::isFixedFolder(path) && !TAMBRO_Global::isPartiName(path))
+    // Preloaded content lives in the phone's own read-only folders.
+    if (!TAMBRO_FixedFolder::isFixedFolder(path) && !TAMBRO_Global::isPartiName(path)
+        && TAMBRO_Global::isPartiSubFolder(path) != -4)
         return true;
     warn(tr("\"%1\" belongs to the phone and keeps its name.").arg(TAMBRO_Global::getShortName(path)));
     return false;
@@ -236,8 +238,9 @@ void MainWindow::renameSelected()
     const QString name = askName(this, tr("Rename"), QFileInfo(path).fileName());
     if (name.isEmpty() || name == QFileInfo(path).fileName())
         return;
-    // QDir::rename never replaces what is there.
-    if (!QDir(m_model->folder()).rename(QFileInfo(path).fileName(), name))
+    // In the row's own folder, which need not be the one shown; QDir::rename
+    // never replaces what is there.
+    if (!QFileInfo(path).dir().rename(QFileInfo(path).fileName(), name))
         warn(tr("\"%1\" cannot be renamed to \"%2\".").arg(QFileInfo(path).fileName(), name));
     openFolder(m_model->folder());
 }

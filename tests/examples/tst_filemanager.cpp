@@ -131,13 +131,17 @@ private Q_SLOTS:
         });
         QCOMPARE(typed, "Live2026");
         QVERIFY(QFileInfo(Root + "/audio/Live2026").isDir() && !QFileInfo::exists(Root + "/audio/Live"));
-        // A fixed folder keeps its name: the notice comes, no dialog.
-        m_window.openFolder(Root);
-        select({"Audio"});
-        bool noticed = false;
-        answerModal(action("rename"), [&](QWidget *box) { noticed = qobject_cast<QMessageBox *>(box) && box->close(); });
-        QVERIFY(noticed);
-        QVERIFY(QFileInfo(Root + "/audio").isDir());
+        // A fixed folder and preloaded content keep their names: the notice
+        // comes, no dialog, and a user's folder of the same name is left alone.
+        QVERIFY(QDir().mkpath(Root + "/picture/pic"));
+        for (const auto &[folder, name] : {std::pair{Root, "Audio"}, {Root + "/picture", "Preloaded Pictures"}}) {
+            m_window.openFolder(folder);
+            select({name});
+            bool noticed = false;
+            answerModal(action("rename"), [&](QWidget *box) { noticed = qobject_cast<QMessageBox *>(box) && box->close(); });
+            QVERIFY2(noticed, name);
+        }
+        QVERIFY(QFileInfo(Root + "/audio").isDir() && QFileInfo(Root + "/picture/pic").isDir());
 
         // A contact card cannot be opened: the phone's notice says so.
         m_window.openFolder(Root + "/documents");

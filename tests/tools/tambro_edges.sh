@@ -4,7 +4,7 @@
 #
 #   tambro_edges.sh KIVSIM TAMBRO GROUP
 #
-# GROUP is one of: special_files, failed_writes, big_table, odd_names.
+# GROUP is one of: special_files, failed_writes, big_table, odd_names, unreadable.
 
 kivsim=$1
 tambro=$2
@@ -74,12 +74,32 @@ test_big_table() {
 
 test_odd_names() {
     make_device '' >/dev/null
-    on 'cd "$TAMBRO_DATA_PATH" && touch "$(printf "caf\351.mp3")" "$(printf "a\nb\033[31m.txt")" &&
+    on 'cd "$TAMBRO_DATA_PATH" && touch "$(printf "caf\351.mp3")" "$(printf "caf\352.mp3")" \
+        "$(printf "a\nb\033[31m.txt")" "$(printf "evil\342\200\256gpj.exe")" &&
         "$TAMBRO" ls && "$TAMBRO" ls --json' >"$work/out" || fail "odd names: $(cat "$work/stderr")"
-    grep -q '^file  *caf�\.mp3 ' "$work/out" || fail "odd names: name with a byte that is not UTF-8"
-    grep -qF 'a\nb\x1b[31m.txt' "$work/out" || fail "odd names: control characters not escaped"
+    local shown
+    for shown in 'caf\xe9.mp3' 'caf\xea.mp3' 'a\nb\x1b[31m.txt' 'evil\u202egpj.exe'; do
+        grep -qF "$shown" "$work/out" || fail "odd names: $shown not shown so"
+    done
     tr -d ' \n' <"$work/out" | grep -qF '"nameBytes":[99,97,102,233,46,109,112,51]' ||
         fail "odd names: --json has not the name's bytes"
+}
+
+# A folder that cannot be read is said, not counted as empty; as root it can
+# be read all the same, and the check has nothing to show.
+test_unreadable() {
+    make_device '' >/dev/null
+    on 'cd "$TAMBRO_DATA_PATH" && mkdir -p top/locked top/open && touch top/locked/a top/open/b &&
+        chmod 000 top/locked && if ls top/locked >/dev/null 2>&1; then exit 77; fi
+        "$TAMBRO" du top' >"$work/out"
+    local status=$?
+    if [ $status -eq 77 ]; then
+        echo "SKIP: a folder of mode 000 stays readable here (root)"
+        exit 77
+    fi
+    [ $status -eq 1 ] || fail "unreadable: exit status $status"
+    grep -qF "cannot read the folder 'top/locked'" "$work/stderr" || fail "unreadable: not said: $(cat "$work/stderr")"
+    grep -q '^Files  *1 ' "$work/out" || fail "unreadable: the readable file not counted"
 }
 
 run_group

@@ -142,7 +142,8 @@ private Q_SLOTS:
     {
         const QString phone = "/kivlocal/download/tambro/";
         QStringList calls;
-        for (QStringList files : {QStringList{"audio/LOUD.MP3", "picture/logo.png", "others/news.url",
+        // A missing file is left out: no application is asked to open it.
+        for (QStringList files : {QStringList{"audio/LOUD.MP3", "none.mp3", "picture/logo.png", "others/news.url",
                                                      "documents/Anna Berg.vcf", "applications/Snake.jad"},
                                          QStringList{"documents/readme.txt"}}) {
             const QJsonArray opened = tambro(QStringList{"open", "--json"} + files.replaceInStrings(QRegularExpression("^"), phone)).json().toArray();
@@ -177,6 +178,9 @@ private Q_SLOTS:
         QTest::newRow("Qt option") << QStringList{"type", "-qwindowtitle", "a.mp3"} << 2 << "Unknown options";
         QTest::newRow("Qt option after --") << QStringList{"type", "--", "-platform", "a.mp3"} << 0 << "\n-platform ";
         QTest::newRow("missing folder") << QStringList{"ls", "/no/such/folder"} << 1 << "/no/such/folder";
+        QTest::newRow("terminal controls in a message") << QStringList{"ls", "/no/\x1b]0;x\x07"} << 1 << "'/no/\\x1b]0;x\\x07'";
+        QTest::newRow("terminal controls in a table") << QStringList{"type", "\x1b[2Ja.mp3"} << 0 << "\\x1b[2Ja.mp3 ";
+        QTest::newRow("missing file to open") << QStringList{"open", "/none.mp3"} << 1 << "no file '/none.mp3'";
     }
 
     void usage()

@@ -1,6 +1,9 @@
 #include "du_command.h"
 
 #include "disk_space.h"
+#include "folder_reader.h"
+#include "output.h"
+#include "printable/printable_text.h"
 #include "text_table.h"
 
 #include <TAMBRO_Global.h>
@@ -10,8 +13,6 @@
 #include <QJsonObject>
 
 namespace {
-
-constexpr int Failure = 1;
 
 QJsonObject describeUsage(const QString &path)
 {
@@ -57,7 +58,7 @@ QString textReport(const QJsonObject &report)
     QString text;
     for (const QJsonValue &usage : report[QStringLiteral("paths")].toArray())
         text += usageTable(usage.toObject()) + u'\n';
-    return text + report[QStringLiteral("selectionTitle")].toString() + u'\n';
+    return text + printableText(report[QStringLiteral("selectionTitle")].toString()) + u'\n';
 }
 
 } // namespace
@@ -70,10 +71,12 @@ int runDuCommand(QTextStream &out, const Request &request)
     for (const QString &path : request.arguments) {
         // As du does: a missing path is said and left out, the others shown.
         if (!QFileInfo::exists(path)) {
-            QTextStream(stderr) << "tambro: no file or folder '" << path << "'\n";
-            status = Failure;
+            status = reportFailure(QStringLiteral("no file or folder '%1'").arg(path));
             continue;
         }
+        // The library counts what it can read; what it could not is said.
+        for (const QByteArray &folder : unreadableFolders(path))
+            status = reportFailure(QStringLiteral("cannot read the folder '%1': its content is not counted"), folder);
         const QJsonObject usage = describeUsage(path);
         total += usage[QStringLiteral("size")].toDouble();
         paths.append(usage);

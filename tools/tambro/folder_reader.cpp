@@ -7,6 +7,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -24,7 +25,48 @@ DiskEntry entryAt(int folder, const char *name)
     return entry;
 }
 
+constexpr int MaxDepth = 64;
+
+// Takes the descriptor of the folder at path, which is at depth below the tree's top.
+void addUnreadable(int folderFd, const QByteArray &path, int depth, QList<QByteArray> &unreadable)
+{
+    DIR *dir = ::fdopendir(folderFd);
+    if (!dir) {
+        ::close(folderFd);
+        unreadable.append(path);
+        return;
+    }
+    while (const dirent *entry = ::readdir(dir)) {
+        const char *name = entry->d_name;
+        if (entry->d_type != DT_DIR || std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0
+            || depth >= MaxDepth)
+            continue;
+        const QByteArray subfolder = path + '/' + name;
+        const int fd = ::openat(::dirfd(dir), name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        if (fd < 0)
+            unreadable.append(subfolder);
+        else
+            addUnreadable(fd, subfolder, depth + 1, unreadable);
+    }
+    ::closedir(dir);
+}
+
 } // namespace
+
+QList<QByteArray> unreadableFolders(const QString &path)
+{
+    const QByteArray top = QFile::encodeName(path);
+    struct stat info;
+    if (::stat(top.constData(), &info) != 0 || !S_ISDIR(info.st_mode))
+        return {};
+    QList<QByteArray> unreadable;
+    const int fd = ::open(top.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        unreadable.append(top);
+    else
+        addUnreadable(fd, top, 0, unreadable);
+    return unreadable;
+}
 
 // By bytes, not through QDir, which decodes every name to text and then
 // cannot find the entries whose names are not UTF-8.

@@ -22,3 +22,8 @@ struct DiskEntry
 
 // In the order the file system gives; nothing when the folder cannot be read.
 std::optional<QList<DiskEntry>> readFolder(const QString &folder);
+
+// The folders in the tree at path that cannot be read, by their paths' bytes:
+// what a size or a count of the tree leaves out. Links are not followed,
+// below path itself, and a tree deeper than any phone's is not gone into.
+QList<QByteArray> unreadableFolders(const QString &path);

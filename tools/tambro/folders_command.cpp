@@ -4,6 +4,8 @@
 #include "folder_reader.h"
 #include "text_table.h"
 
+#include "printable/printable_text.h"
+
 #include <KIV_Paths.h>
 #include <TAMBRO_FixedFolder.h>
 #include <ZConfig.h>
@@ -296,8 +298,8 @@ QString preloadedFileTable(const QJsonArray &folders)
     for (const QJsonValue &folder : folders) {
         for (const QJsonValue &value : folder.toObject()[QStringLiteral("files")].toArray()) {
             const QJsonObject file = value.toObject();
-            table.addRow({file[QStringLiteral("path")].toString(),
-                          file[QStringLiteral("name")].toString()});
+            table.addPrintableRow({printableName(file[QStringLiteral("path")], file[QStringLiteral("pathBytes")]),
+                                   printableText(file[QStringLiteral("name")].toString())});
         }
     }
     return table.toString();

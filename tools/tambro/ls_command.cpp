@@ -3,6 +3,7 @@
 #include "folder_listing.h"
 #include "list_view_picture.h"
 #include "output.h"
+#include "printable/printable_text.h"
 #include "text_table.h"
 
 #include <TAMBRO_File_Filter.h>
@@ -14,8 +15,6 @@
 #include <QJsonObject>
 
 namespace {
-
-constexpr int Failure = 1;
 
 QString kindName(ListedEntry::Kind kind)
 {
@@ -64,16 +63,11 @@ QString textTable(const QJsonObject &listing)
         const QJsonObject entry = value.toObject();
         QStringList row;
         for (const char *field : {"kind", "name", "shownAs", "sizeText", "modified", "smallIcon", "bigIcon"})
-            row << entry[QLatin1String(field)].toString();
-        table.addRow(row);
+            row << printableText(entry[QLatin1String(field)].toString());
+        row[1] = printableName(entry[QStringLiteral("name")], entry[QStringLiteral("nameBytes")]);
+        table.addPrintableRow(row);
     }
-    return listing[QStringLiteral("title")].toString() + QStringLiteral("\n\n") + table.toString();
-}
-
-int fail(const QString &message)
-{
-    QTextStream(stderr) << "tambro: " << message << '\n';
-    return Failure;
+    return printableText(listing[QStringLiteral("title")].toString()) + QStringLiteral("\n\n") + table.toString();
 }
 
 int writePicture(const QString &path, const FolderListing &listing)
@@ -83,7 +77,7 @@ int writePicture(const QString &path, const FolderListing &listing)
     buffer.open(QIODevice::WriteOnly);
     QString error;
     if (!drawListView(listing).save(&buffer, "PNG") || !writeWholeFile(path, png, error))
-        return fail(QStringLiteral("cannot write '%1': %2").arg(path, error));
+        return reportFailure(QStringLiteral("cannot write '%1': %2").arg(path, error));
     return 0;
 }
 
@@ -112,13 +106,13 @@ int runLsCommand(QTextStream &out, const Request &request)
 {
     const QString folder = request.arguments.value(0, TAMBRO_FixedFolder::m_sFMRootPath);
     if (folder.isEmpty())
-        return fail(QStringLiteral("no folder given and TAMBRO_DATA_PATH is not set"));
+        return reportFailure(QStringLiteral("no folder given and TAMBRO_DATA_PATH is not set"));
     // As in the file manager, the fixed folders exist before the first listing.
     TAMBRO_FixedFolder::initialize();
     const std::optional<TAMBRO_File_Filter> filter = fileFilter(request);
     const std::optional<FolderListing> listing = listFolder(folder, filter ? &*filter : nullptr);
     if (!listing)
-        return fail(QStringLiteral("cannot list '%1': not a readable folder").arg(folder));
+        return reportFailure(QStringLiteral("cannot list '%1': not a readable folder").arg(folder));
     if (!request.png.isNull())
         return writePicture(request.png, *listing);
     return printReport(out, request, toJson(folder, *listing), textTable);

@@ -11,6 +11,8 @@
 #include "storage_command.h"
 #include "type_command.h"
 
+#include "printable/printable_text.h"
+
 #include <QCommandLineParser>
 #include <QApplication>
 #include <QTextStream>
@@ -104,7 +106,7 @@ const QStringList CommandOptions = {"png",  "type",     "normal",   "install-arg
 int usageError(const QString &why)
 {
     QTextStream err(stderr);
-    err << "tambro: " << why << "\n\n" << Usage;
+    err << "tambro: " << printableText(why) << "\n\n" << Usage;
     return UsageError;
 }
 
@@ -207,8 +209,8 @@ int main(int argc, char *argv[])
     const int status = run(arguments, out);
     QString error;
     if (!finishStandardOutput(out, error)) {
-        QTextStream(stderr) << "tambro: cannot write the output: " << error << '\n';
-        return status == 0 ? 1 : status;
+        const int failure = reportFailure(QStringLiteral("cannot write the output: %1").arg(error));
+        return status == 0 ? failure : status;
     }
     return status;
 }

@@ -1,6 +1,7 @@
 #include "open_command.h"
 
 #include "journal_reader.h"
+#include "output.h"
 #include "text_table.h"
 
 #include <TAMBRO_FileHandle.h>
@@ -48,7 +49,15 @@ int runOpenCommand(QTextStream &out, const Request &request)
 {
     JournalReader journal;
     QJsonArray opened;
-    for (const QString &file : request.arguments)
+    int status = 0;
+    for (const QString &file : request.arguments) {
+        // The phone's applications would be asked to open it all the same.
+        if (!QFileInfo::exists(file)) {
+            status = reportFailure(QStringLiteral("no file '%1'").arg(file));
+            continue;
+        }
         opened.append(open(file, request, journal));
-    return printReport(out, request, opened, textTable);
+    }
+    printReport(out, request, opened, textTable);
+    return status;
 }

@@ -1,5 +1,7 @@
 #include "output.h"
 
+#include "printable/printable_text.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -20,6 +22,18 @@ bool finishStandardOutput(QTextStream &out, QString &error)
         return true;
     error = QString::fromLocal8Bit(std::strerror(written ? errno : writeError));
     return false;
+}
+
+int reportFailure(const QString &message)
+{
+    QTextStream(stderr) << "tambro: " << printableText(message) << '\n';
+    return 1;
+}
+
+int reportFailure(const QString &message, const QByteArray &name)
+{
+    QTextStream(stderr) << "tambro: " << printableText(message).arg(printableBytes(name)) << '\n';
+    return 1;
 }
 
 namespace {

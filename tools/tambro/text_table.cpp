@@ -1,23 +1,12 @@
 #include "text_table.h"
 
+#include "printable/printable_text.h"
+
+#include <QJsonArray>
+
 #include <algorithm>
 
 namespace {
-
-QString escapeOf(QChar c)
-{
-    switch (c.unicode()) {
-    case u'\\':
-        return QStringLiteral("\\\\");
-    case u'\n':
-        return QStringLiteral("\\n");
-    case u'\r':
-        return QStringLiteral("\\r");
-    case u'\t':
-        return QStringLiteral("\\t");
-    }
-    return QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
-}
 
 // Keeps the start and the end of a long cell, which for a path are the
 // parts that tell most.
@@ -31,19 +20,6 @@ QString fitted(const QString &cell)
 
 } // namespace
 
-QString escapedForTerminal(const QString &text)
-{
-    QString escaped;
-    escaped.reserve(text.size());
-    for (const QChar c : text) {
-        if (c == u'\\' || c.category() == QChar::Other_Control)
-            escaped += escapeOf(c);
-        else
-            escaped += c;
-    }
-    return escaped;
-}
-
 TextTable::TextTable(const QStringList &headers)
 {
     addRow(headers);
@@ -53,11 +29,27 @@ void TextTable::addRow(const QStringList &cells)
 {
     QStringList shown;
     for (const QString &cell : cells)
-        shown << escapedForTerminal(cell);
+        shown << printableText(cell);
+    addPrintableRow(shown);
+}
+
+void TextTable::addPrintableRow(const QStringList &cells)
+{
+    QStringList shown = cells;
     // The last column pads nothing after it: only the others are cut to fit.
     for (qsizetype column = 0; column + 1 < shown.size(); ++column)
         shown[column] = fitted(shown[column]);
     m_rows.append(shown);
+}
+
+QString printableName(const QJsonValue &text, const QJsonValue &bytes)
+{
+    if (!bytes.isArray())
+        return printableText(text.toString());
+    QByteArray name;
+    for (const QJsonValue &byte : bytes.toArray())
+        name.append(char(byte.toInt()));
+    return printableBytes(name);
 }
 
 QString TextTable::toString() const

@@ -56,8 +56,7 @@ private Q_SLOTS:
         QTest::newRow("11-byte label fills the field, no terminator")
             << QByteArray("[card]\nlabel=HOLIDAY2024\nbyte0=0x03") << 1 << cardBlock(3, 4, "HOLIDAY2024") << QString();
         QTest::newRow("longer label is cut to 11 bytes")
-            << QByteArray("[card]\nlabel=ABCDEFGHIJKLMN") << 1 << cardBlock(0, 4, "ABCDEFGHIJK")
-            << QStringLiteral("device\\.ini:2: ");
+            << QByteArray("[card]\nlabel=ABCDEFGHIJKLMN") << 1 << cardBlock(0, 4, "ABCDEFGHIJK") << QStringLiteral("device\\.ini:2: ");
         QTest::newRow("info is the call's result; 0 fails and leaves the block alone")
             << QByteArray("[card]\ninfo=0\nbyte0=1") << 0 << QByteArray() << QString();
         QTest::newRow("byte out of range keeps its default")

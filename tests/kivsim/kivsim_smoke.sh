@@ -142,7 +142,8 @@ $entry")
         ln -sfn "$work/host-file" "$device/evil.mtab"
         ln -sfn "$work/host-folder" "$device/dirlink"
         ln -sfn .. "$device/up"
-        ln -sfn "$work/host-folder" "$device/card"
+        # Only an entry of its own: the card's link would fail every run.
+        [ "$entry" = card ] && ln -sfn "$work/host-folder" "$device/card"
         expect_status 125 "$entry" on "$device" 'echo changed >/etc/mtab'
         grep -q "leads out of the device folder" "$work/stderr" || fail "$entry: no clear message"
         rm -rf "$device"
@@ -205,6 +206,84 @@ test_signals() {
         pgrep -x -f 'sleep 86397' >/dev/null && fail "SIG$signal left the command's children running"
         pkill -x -f 'sleep 86397'
     done
+}
+
+# The command has no way to push input into the caller's terminal, whoever runs kivsim.
+test_terminal() {
+    local user seen
+    local probe="$kivsim --device $sample -- perl -e '\$c = \"x\"; print ioctl(STDIN, 0x5412, \$c) ? \"injected\" : \"refused\"'"
+    for user in "" "setpriv --reuid=65534 --regid=65534 --clear-groups"; do
+        [ -z "$user" ] || { [ "$(id -u)" = 0 ] && $user test -r "$sample/device.ini"; } || continue
+        seen=$($user script -qec "$probe" /dev/null)
+        [ "${seen%$'\r'}" = refused ] || fail "${user:-the caller}: TIOCSTI: $seen"
+    done
+}
+
+# Run as root, the command can change neither the host's mounts nor its device
+# nodes, yet makes the phone's folders the phone's user's.
+test_privileges() {
+    [ "$(id -u)" = 0 ] || { echo "SKIP: privileges: not root"; return; }
+    local host mode
+    host=$(mktemp -d "$(dirname "$kivsim")/host-XXXXXX") && chmod 755 "$host" && echo original >"$host/file"
+    mode=$(stat -c %a /dev/full)
+    on "$sample" "chmod 777 /dev/full; mount -o remount,bind,rw $host; echo x >$host/file;
+        mkdir /mmc/mmca1/made && chown 2000:233 /mmc/mmca1/made && touch /mmc/mmca1/made/x"
+    grep -q "cannot touch\|denied\|touch:" "$work/stderr" && fail "writing the phone's storage: $(cat "$work/stderr")"
+    [ "$(stat -c %a /dev/full)" = "$mode" ] || fail "the host's /dev/full changed mode"
+    [ "$(cat "$host/file")" = original ] || fail "a host file was written after a remount"
+    rm -rf "$host"
+}
+
+# Shares are judged by where they lead; the device folder stays as it is.
+test_shares() {
+    ln -s /usr "$work/usr-link"
+    cp -R "$sample" "$work/device" && mkdir "$work/other"
+    local share
+    for share in "$work/usr-link" "$work/device" "$work/device/phone"; do
+        expect_status 2 "--share $share" "$kivsim" --device "$work/device" --share "$share" -- true 2>/dev/null
+    done
+    "$kivsim" --device "$work/device" --share "$work" -- sh -c "touch $work/other/x; touch $work/device/x" 2>/dev/null
+    [ -e "$work/other/x" ] || fail "the shared folder is not writable"
+    [ -e "$work/device/x" ] && fail "the device folder was written through a share that holds it"
+    [ -e /usr/SYSqtapp ] && fail "/usr was written on the host"
+}
+
+# The copy is the caller's and no one else's, whatever the device folder's mode.
+test_copy() {
+    cp -R "$sample" "$work/open" && chmod 777 "$work/open" && mkdir -p "$work/tmp"
+    [ "$(id -u)" != 0 ] || chown -R 65534 "$work/open"
+    TMPDIR=$work/tmp "$kivsim" --keep --device "$work/open" -- true 2>/dev/null
+    [ "$(stat -c '%a %u' "$work"/tmp/kivsim-*/ "$work"/tmp/kivsim-*/device | sort -u)" = "700 $(id -u)" ] ||
+        fail "device copy not 0700 and the caller's: $(stat -c '%n %a %u' "$work"/tmp/*/ "$work"/tmp/*/*/)"
+    rm -rf "$work/tmp"/*
+
+    # A signal during the copy stops it and removes it; so does the next kivsim after SIGKILL.
+    mkdir -p "$work/big/phone" && printf '[sandbox]\nphone_size = 1G\n' >"$work/big/device.ini"
+    for i in 1 2 3 4 5 6; do head -c 100M /dev/zero >"$work/big/phone/$i"; done
+    local signal pid status
+    for signal in TERM KILL; do
+        TMPDIR=$work/tmp "$kivsim" --device "$work/big" -- true 2>/dev/null &
+        pid=$!
+        for _ in $(seq 100); do [ -e "$work"/tmp/kivsim-*/device ] && break; sleep 0.02; done
+        kill -s "$signal" "$pid"
+        wait "$pid"
+        status=$?
+        [ "$signal" = KILL ] || { [ $status = 143 ] && [ -z "$(ls -A "$work/tmp")" ]; } ||
+            fail "SIGTERM during the copy: exit $status, left: $(ls -A "$work/tmp")"
+    done
+    sleep 0.2
+    TMPDIR=$work/tmp "$kivsim" --device "$sample" -- true
+    [ -z "$(ls -A "$work/tmp")" ] || fail "copies left behind: $(ls -A "$work/tmp")"
+
+    # Entries of the wrong kind, or a journal that is a link, are setup failures.
+    local odd
+    odd=$(make_device wrong-kind $'[sandbox]\nphone_size = 1M\n\e]0;title\a = 1')
+    echo x >"$odd/phone"
+    expect_status 125 "phone as a file" on "$odd" true
+    grep -q '"phone" is not a folder' "$work/stderr" || fail "phone as a file: no clear message"
+    grep -q $'\e' "$work/stderr" || ! grep -qF '\x1b]0;title\x07' "$work/stderr" && fail "a key's ESC not escaped"
+    ln -s "$work/none/journal" "$work/journal-link"
+    KIVSIM_JOURNAL=$work/journal-link expect_status 125 "journal link" on "$sample" true
 }
 
 run_group

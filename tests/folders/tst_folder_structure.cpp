@@ -46,20 +46,15 @@ class TestFolderStructure : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keyWordFoldersAreMadeInKeyOrder()
-    {
-        TAMBRO_FixedFolder::initialize();
-        // The preload root's file lists zeta, alpha, "voice " (its blank is
-        // part of the name), deep, default: folders follow the keys. The
-        // system's file, with its "second", is not read.
-        QCOMPARE(foldersInOrderMade(Root), (QStringList{"alpha", "a", "others", "voice ", "zeta"}));
-        QCOMPARE(TAMBRO_FixedFolder::getDefaultFolder(), Root + "/others");
-    }
-
-    void everyMissingComponentIsMadeForThePhonesUser()
+    // The preload root's file lists zeta, alpha, "voice " (its blank is part
+    // of the name), deep, default: folders follow the keys, every missing
+    // component made. The system's file, with its "second", is not read.
+    void keyWordFoldersAreMadeInKeyOrderForThePhonesUser()
     {
         QVERIFY2(!QFileInfo::exists(Root), "nothing is made when the library is loaded");
         TAMBRO_FixedFolder::initialize();
+        QCOMPARE(foldersInOrderMade(Root), (QStringList{"alpha", "a", "others", "voice ", "zeta"}));
+        QCOMPARE(TAMBRO_FixedFolder::getDefaultFolder(), Root + "/others");
         const QStringList made = {Root, Root + "/a", Root + "/a/b", Root + "/a/b/c",
                                   Root + "/alpha", Root + "/others", Root + "/zeta"};
         for (const QString &path : made)
@@ -107,28 +102,24 @@ private Q_SLOTS:
         QCOMPARE(folder.bigIcon, QStringLiteral("fm_folder_thb.gif"));
     }
 
-    void rootIsTrimmedOfBlanksAndSlashes()
+    // TAMBRO_DATA_PATH as each row's setup gives it. With an empty root,
+    // relative paths stand for themselves; "/" cannot be written here, which
+    // the library takes silently.
+    void dataPath_data()
     {
-        QCOMPARE(qgetenv("TAMBRO_DATA_PATH"), QByteArray(" /kivlocal/download/tambro/root/// "));
-        QCOMPARE(TAMBRO_FixedFolder::m_sFMRootPath, Root);
-        TAMBRO_FixedFolder::initialize();
-        QVERIFY(QFileInfo(Root + "/alpha").isDir());
+        QTest::addColumn<QString>("root");
+        QTest::newRow("trimmed of blanks and slashes") << Root;
+        QTest::newRow("lone slash: empty") << QString();
+        QTest::newRow("unset: empty") << QString();
     }
 
-    void loneSlashGivesAnEmptyRoot()
+    void dataPath()
     {
-        QVERIFY(TAMBRO_FixedFolder::m_sFMRootPath.isEmpty());
-        // Relative paths then stand for themselves; "/" cannot be written
-        // here, which the library takes silently.
+        QFETCH(QString, root);
+        QCOMPARE(TAMBRO_FixedFolder::m_sFMRootPath, root);
         TAMBRO_FixedFolder::initialize();
-        QCOMPARE(TAMBRO_FixedFolder::getDefaultFolder(), QStringLiteral("/others"));
-    }
-
-    void unsetRootIsEmpty()
-    {
-        QVERIFY(!qEnvironmentVariableIsSet("TAMBRO_DATA_PATH"));
-        QVERIFY(TAMBRO_FixedFolder::m_sFMRootPath.isEmpty());
-        QCOMPARE(TAMBRO_FixedFolder::getDefaultFolder(), QStringLiteral("/others"));
+        QCOMPARE(TAMBRO_FixedFolder::getDefaultFolder(), root + "/others");
+        QVERIFY(root.isEmpty() || QFileInfo(root + "/alpha").isDir());
     }
 };
 
@@ -136,9 +127,8 @@ KIVTAMBRO_SCENARIO_MAIN(
     TestFolderStructure,
     {{"systemFileIsTheFallback", {QStringLiteral(SYSTEM_STRUCTURE_DEVICE), {}}},
      {"noStructureFileMakesNoFolder", {QStringLiteral(KIVTAMBRO_BARE_DEVICE), {}}},
-     {"rootIsTrimmedOfBlanksAndSlashes",
-      {QString(), {"TAMBRO_DATA_PATH= /kivlocal/download/tambro/root/// "}}},
-     {"loneSlashGivesAnEmptyRoot", {QString(), {"TAMBRO_DATA_PATH=/"}}},
-     {"unsetRootIsEmpty", {QString(), {"-TAMBRO_DATA_PATH"}}}},
+     {"dataPath:trimmed of blanks and slashes", {QString(), {"TAMBRO_DATA_PATH= /kivlocal/download/tambro/root/// "}}},
+     {"dataPath:lone slash: empty", {QString(), {"TAMBRO_DATA_PATH=/"}}},
+     {"dataPath:unset: empty", {QString(), {"-TAMBRO_DATA_PATH"}}}},
     QStringLiteral(STRUCTURE_DEVICE))
 #include "tst_folder_structure.moc"

@@ -8,16 +8,6 @@
 
 namespace TestPhone {
 
-namespace {
-
-void writeOrDie(QFileDevice &file, const QByteArray &data)
-{
-    if (file.write(data) != data.size())
-        qFatal("cannot write %s: %s", qPrintable(file.fileName()), qPrintable(file.errorString()));
-}
-
-} // namespace
-
 void startJournal()
 {
     const QString path = QDir::tempPath() + QStringLiteral("/kivtambro-test-journal.jsonl");
@@ -29,9 +19,8 @@ void setMountTable(const QByteArray &text)
 {
     // /etc/mtab is a bind-mounted file: rewrite it in place.
     QFile file(QStringLiteral("/etc/mtab"));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        qFatal("cannot open /etc/mtab: %s", qPrintable(file.errorString()));
-    writeOrDie(file, text);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(text) != text.size())
+        qFatal("cannot write /etc/mtab: %s", qPrintable(file.errorString()));
 }
 
 void setDevice(const QByteArray &ini)
@@ -39,10 +28,7 @@ void setDevice(const QByteArray &ini)
     // A new file under the same name, so the platform sees a change even
     // within one tick of the file system's clock.
     QSaveFile file(qEnvironmentVariable("KIVSIM_DEVICE"));
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("cannot write the device file: %s", qPrintable(file.errorString()));
-    writeOrDie(file, ini);
-    if (!file.commit())
+    if (!file.open(QIODevice::WriteOnly) || file.write(ini) != ini.size() || !file.commit())
         qFatal("cannot replace the device file: %s", qPrintable(file.errorString()));
 }
 

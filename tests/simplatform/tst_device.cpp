@@ -15,7 +15,6 @@
 #include <functional>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -24,6 +23,16 @@ using Change = std::function<bool(TestDeviceFile &device, const QByteArray &cont
 Q_DECLARE_METATYPE(Change)
 
 namespace {
+
+// Removes the device's folder and makes it again, the old one held open or not.
+bool remakeFolder(TestDeviceFile &device, const QByteArray &content, bool hold)
+{
+    const QString folder = device.dir().path();
+    const int held = hold ? ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY) : -1;
+    const bool remade = (!hold || held >= 0) && QDir(folder).removeRecursively() && UTIL_GetMMCSDStatus() == 0
+        && QDir().mkdir(folder) && device.write(content);
+    return remade && (!hold || ::close(held) == 0);
+}
 
 QByteArray cardBlock(quint8 byte0, quint8 byte2, const QByteArray &label)
 {
@@ -104,11 +113,7 @@ private Q_SLOTS:
         QTest::newRow("replaced by rename")
             << Change([](TestDeviceFile &device, const QByteArray &content) { return device.replace(content); });
         QTest::newRow("folder removed, then made again")
-            << Change([](TestDeviceFile &device, const QByteArray &content) {
-                   const QString folder = device.dir().path();
-                   return QDir(folder).removeRecursively() && UTIL_GetMMCSDStatus() == 0
-                       && QDir().mkdir(folder) && device.write(content);
-               });
+            << Change([](TestDeviceFile &device, const QByteArray &content) { return remakeFolder(device, content, false); });
         // The link's folder shows nothing of what happens to its target.
         QTest::newRow("target of a symbolic link rewritten")
             << Change([](TestDeviceFile &device, const QByteArray &content) {
@@ -121,13 +126,7 @@ private Q_SLOTS:
         // A removed folder still held open (a shell's working folder, say)
         // tells its watch nothing until let go.
         QTest::newRow("folder made again while the old one is held")
-            << Change([](TestDeviceFile &device, const QByteArray &content) {
-                   const QString folder = device.dir().path();
-                   const int held = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
-                   const bool changed = held >= 0 && QDir(folder).removeRecursively()
-                       && UTIL_GetMMCSDStatus() == 0 && QDir().mkdir(folder) && device.write(content);
-                   return changed && ::close(held) == 0;
-               });
+            << Change([](TestDeviceFile &device, const QByteArray &content) { return remakeFolder(device, content, true); });
         QTest::newRow("replaced by a forked child") << Change([](TestDeviceFile &device, const QByteArray &content) {
             const pid_t child = fork();
             if (child == 0)

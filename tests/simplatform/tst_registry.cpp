@@ -115,16 +115,12 @@ private Q_SLOTS:
         QCOMPARE(handler.isNull(), expected.isNull());
     }
 
-    void quotedTypeKeepsItsBlanks()
+    // A quoted type keeps its blanks; a picture goes by the last dot.
+    void typesFromTheDevice()
     {
-        QVERIFY(m_device.write("[mime]\nodd = \"  audio/x-odd \"\nbare =   audio/bare  \n"));
+        QVERIFY(m_device.write("[mime]\nodd = \"  audio/x-odd \"\nbare =   audio/bare  \njpg = image/jpeg\n"));
         QCOMPARE(m_registry.getAssociatedMimeType("odd") + m_registry.getAssociatedMimeType("bare"),
                  QStringLiteral("  audio/x-odd audio/bare"));
-    }
-
-    void isPictureByTheLastDot()
-    {
-        QVERIFY(m_device.write("[mime]\njpg = image/jpeg\n"));
         QVERIFY(UTIL_MimeType::isPicture("/a/photo.JPG") && UTIL_MimeType::isPicture("/a/.jpg"));
         QVERIFY(!UTIL_MimeType::isPicture("/a.jpg/readme"));
     }

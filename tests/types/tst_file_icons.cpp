@@ -72,7 +72,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("small"); // the big one pairs with it
 
-        QTest::newRow("audio") << "song.mp3" << "fm_audio_small.gif";
         QTest::newRow("a picture without handler is still a picture") << "photo.jpg" << "fm_pic_small.gif";
         QTest::newRow("video") << "clip.MP4" << "fm_vid_small.gif";
         QTest::newRow("java needs no handler") << "game.jar" << "fm_java_midlet_small.gif";
@@ -81,14 +80,12 @@ private Q_SLOTS:
         QTest::newRow("handled download") << "album.CIM" << "Complete_Download_S.gif";
         // Downloads go by the file name's own extension, not the last dot.
         QTest::newRow("download without a dot is none") << "cim" << "msg_receipt_request_small.gif";
-        QTest::newRow("voice record") << "memo.amr" << "fm_voice_record_small.gif";
-        QTest::newRow("text") << "notes.txt" << "fm_text_small.gif";
-        QTest::newRow("bookmark") << "news.url" << "fm_bkmrk_small.gif";
-        QTest::newRow("saved conversation") << "chat.im" << "fm_save_im_conv_small.gif";
-        QTest::newRow("light pattern") << "party.gnx" << "pfile_light_small.gif";
-        QTest::newRow("contact") << "anna.vcf" << "fm_vcf_small.gif";
-        QTest::newRow("calendar") << "dentist.vcs" << "fm_vcs_small.gif";
         QTest::newRow("handled, of no listed kind") << "manual.pdf" << "msg_receipt_request_small.gif";
+        // The kinds with an icon of their own, by their handled extensions.
+        for (const auto &[name, icon] : {std::pair{"song.mp3", "fm_audio"}, {"memo.amr", "fm_voice_record"},
+                 {"notes.txt", "fm_text"}, {"news.url", "fm_bkmrk"}, {"chat.im", "fm_save_im_conv"},
+                 {"party.gnx", "pfile_light"}, {"anna.vcf", "fm_vcf"}, {"dentist.vcs", "fm_vcs"}})
+            QTest::newRow(name) << QString(name) << icon + QStringLiteral("_small.gif");
     }
 
     void iconByType()

@@ -1,6 +1,8 @@
 // kivsim's pieces: the [sandbox] section of a device file, and the bwrap
 // command that lays the phone out over the host.
 #include "bwrapcommand.h"
+#include "exitcodes.h"
+#include "sandboxrunner.h"
 
 #include "simplatform/keyfile.h"
 
@@ -80,6 +82,27 @@ private Q_SLOTS:
         QCOMPARE(read("[sandbox]\nmtab = tables/../odd.mtab \n", warnings).mountTable, QStringLiteral("odd.mtab"));
         for (const char *outside : {"/proc/mounts", "a/../../x", ""})
             QCOMPARE(read(QByteArray("[sandbox]\nmtab = ") + outside, warnings).mountTable, QStringLiteral("mtab"));
+    }
+
+    // The command's status only once the start script said it starts it;
+    // bwrap's own failure before that, whatever its status, is kivsim's.
+    void startReported_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        const QStringList host = {"--ro-bind", "/", "/", "--dev", "/dev"};
+        const QString start = QStringLiteral("printf started >&%1; exec %1>&-; ").arg(CommandStartedFd);
+        QTest::newRow("command's status") << host + QStringList{"sh", "-c", start + "exit 3"} << 3;
+        QTest::newRow("no start reported") << host + QStringList{"sh", "-c", "exit 3"} << int(ExitCode::SetupFailed);
+        QTest::newRow("source path missing")
+            << QStringList{"--ro-bind", "/kivsim-no-such-folder", "/x", "true"} << int(ExitCode::SetupFailed);
+    }
+
+    void startReported()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, status);
+        QCOMPARE(runSandbox(QStringLiteral("bwrap"), arguments, {}), status);
     }
 
     void revealedPaths()

@@ -1,11 +1,8 @@
-// Tests of the library's process-wide state, which is built once per process:
-// each test function, and each row of a data-driven one, is a scenario that
-// runs in a process of its own, on a simulated phone of its own.
-//
-// Run without arguments, the program starts itself once per scenario, each
-// inside kivsim, as QTest lists them; so no scenario can be left out of the
-// run, as it could from a list kept beside the program. Run with a function's
-// name (inside kivsim), it runs that function like any QTest program.
+// Tests of the library's process-wide state: each test function, and each row
+// of a data-driven one, is a scenario run in a process and on a simulated phone
+// of its own. Without arguments the program starts itself inside kivsim once
+// per scenario QTest lists, so none can be left out; with a function's name it
+// runs that function like any QTest program.
 #pragma once
 
 #include <QHash>
@@ -21,9 +18,8 @@ struct Setup
     QStringList environment; // "NAME=value" to set, "-NAME" to unset
 };
 
-// The test's entry point; setups are by function name, or by "function:row"
-// for one row of a data-driven function, and a scenario
-// without one runs on the default device (the bare phone when empty).
+// Setups are by "function" or "function:row"; a scenario without one runs on
+// the default device (the bare phone when empty).
 int run(QObject &test, int argc, char **argv, const QHash<QString, Setup> &setups = {},
         const QString &defaultDevice = QString());
 

@@ -289,6 +289,11 @@ QString BwrapCommand::fillScript() const
     }
     // As the phone's user, with only the capabilities it needs: the host's
     // device nodes and the caller's terminal, root's, are then not its own.
+    if (m_ownRuntimeFolder)
+        lines << QStringLiteral("chown %1:%2 %3")
+                     .arg(KivPaths::UserFilesOwner)
+                     .arg(KivPaths::UserFilesGroup)
+                     .arg(PhoneLayout::runtimeFolder);
     const QString capabilities = QStringLiteral("-all,+") + programCapabilities.join(QStringLiteral(",+"));
     lines << QStringLiteral("exec setpriv --reuid=%1 --regid=%2 --clear-groups --no-new-privs "
                             "--inh-caps=%3 --ambient-caps=%3 --bounding-set=%3 -- \"$@\"")

@@ -37,6 +37,9 @@ public:
     // Gives the command a private runtime folder of the sandbox's own, for
     // when the host's cannot be shared.
     void useOwnRuntimeFolder();
+    // Whether the command runs as the phone's user rather than the caller:
+    // so when kivsim runs as root.
+    bool handsOverToPhoneUser() const { return m_asRoot; }
     void setEnvironment(const QString &name, const QString &value);
     void setWorkingDirectory(const QString &path);
 

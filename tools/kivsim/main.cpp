@@ -256,12 +256,14 @@ bool shareFolders(BwrapCommand &command, const QStringList &folders)
 }
 
 // The desktop's X11 sockets and the session's runtime folder, so that the
-// command can open windows; a runtime folder that cannot be shared is
-// replaced by one of the sandbox's own.
+// command can open windows; a runtime folder that cannot be shared, or that
+// is not the command's user's, is replaced by one of the sandbox's own.
 void shareWindowSystem(BwrapCommand &command)
 {
     if (QFileInfo(QStringLiteral("/tmp/.X11-unix")).isDir())
         command.revealHostPath(QStringLiteral("/tmp/.X11-unix"), BwrapCommand::Access::ReadWrite);
+    if (command.handsOverToPhoneUser())
+        return command.useOwnRuntimeFolder();
     const QString runtimeDir = qEnvironmentVariable("XDG_RUNTIME_DIR");
     QString clash = QStringLiteral("no such folder");
     if (!runtimeDir.isEmpty() && QFileInfo(runtimeDir).isDir())

@@ -94,14 +94,13 @@ test_exit_status() {
 test_odd_devices() {
     # Bad values are reported with file and line; the phone runs with defaults.
     local odd
-    odd=$(make_device odd '[sandbox]
-phone_size = lots
-card_size = 1M')
+    odd=$(make_device odd $'[sandbox]\nphone_size = lots\ncard_size = 1M\n\e]0;title\a = 1')
     printf 'garbage \001 line\n/dev/mmca1 /mmc/mmca1 vfat rw 0 0 extra fields\n' >"$odd/mtab"
     on "$odd" 'test ! -e /kivlocal/download/tambro && [ $(($(stat -f -c "%S*%b" /mmc/mmca1))) = 1048576 ] &&
             cat /etc/mtab' >"$work/seen" || fail "odd device: storages wrong: $(cat "$work/stderr")"
     cmp -s "$work/seen" "$odd/mtab" || fail "odd mount table text not shown as it is"
     grep -q "$odd/device.ini:2:" "$work/stderr" || fail "no warning for device.ini line 2"
+    grep -q $'\e' "$work/stderr" || ! grep -qF '\x1b]0;title\x07' "$work/stderr" && fail "a key's ESC not escaped"
 
     # A missing mount table gives a warning and an empty /etc/mtab.
     local bare
@@ -128,26 +127,38 @@ test_journal() {
             touch beside "$(dirname "$KIVSIM_JOURNAL")/other"' 2>/dev/null
     [ "$(cat calls.jsonl 2>/dev/null)" = '{"call":"test"}' ] || fail "the journal did not land on the host"
     [ -z "$(ls "$work/cwd" | grep -v calls.jsonl)" ] || fail "the journal's folder is writable"
+    ln -s "$work/none/journal" "$work/journal-link"
+    KIVSIM_JOURNAL=$work/journal-link expect_status 125 "journal link" on "$sample" true
 }
 
-# A device folder whose entries lead to the host through symbolic links.
+# A device folder whose entries lead to the host through symbolic links, or
+# are of the wrong kind: the run stops, saying why.
 test_escapes() {
     echo original >"$work/host-file"
     mkdir -p "$work/host-folder"
-    local device entry
-    for entry in 'mtab = evil.mtab' 'mtab = dirlink/newdir/x.mtab' 'mtab = up/x.mtab' card; do
+    local device entry why
+    while IFS='|' read -r entry why; do
         device=$(make_device escape "[sandbox]
 card_size = 1M
 $entry")
         ln -sfn "$work/host-file" "$device/evil.mtab"
         ln -sfn "$work/host-folder" "$device/dirlink"
         ln -sfn .. "$device/up"
-        # Only an entry of its own: the card's link would fail every run.
+        mkdir "$device/folder"
+        # Only an entry of its own: these would fail every run.
         [ "$entry" = card ] && ln -sfn "$work/host-folder" "$device/card"
+        [ "$entry" = phone_size=1M ] && echo x >"$device/phone"
         expect_status 125 "$entry" on "$device" 'echo changed >/etc/mtab'
-        grep -q "leads out of the device folder" "$work/stderr" || fail "$entry: no clear message"
+        grep -qF "$why" "$work/stderr" || fail "$entry: no clear message"
         rm -rf "$device"
-    done
+    done <<'EOF'
+mtab = evil.mtab|leads out of the device folder
+mtab = dirlink/newdir/x.mtab|leads out of the device folder
+mtab = up/x.mtab|leads out of the device folder
+card|leads out of the device folder
+mtab = folder|its mount table "folder" is not a file
+phone_size=1M|"phone" is not a folder
+EOF
     [ "$(cat "$work/host-file")" = original ] || fail "a host file was overwritten"
     [ -z "$(ls "$work/host-folder")" ] || fail "something was made in a host folder"
 
@@ -275,15 +286,6 @@ test_copy() {
     TMPDIR=$work/tmp "$kivsim" --device "$sample" -- true
     [ -z "$(ls -A "$work/tmp")" ] || fail "copies left behind: $(ls -A "$work/tmp")"
 
-    # Entries of the wrong kind, or a journal that is a link, are setup failures.
-    local odd
-    odd=$(make_device wrong-kind $'[sandbox]\nphone_size = 1M\n\e]0;title\a = 1')
-    echo x >"$odd/phone"
-    expect_status 125 "phone as a file" on "$odd" true
-    grep -q '"phone" is not a folder' "$work/stderr" || fail "phone as a file: no clear message"
-    grep -q $'\e' "$work/stderr" || ! grep -qF '\x1b]0;title\x07' "$work/stderr" && fail "a key's ESC not escaped"
-    ln -s "$work/none/journal" "$work/journal-link"
-    KIVSIM_JOURNAL=$work/journal-link expect_status 125 "journal link" on "$sample" true
 }
 
 run_group

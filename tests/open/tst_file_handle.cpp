@@ -37,6 +37,7 @@ QString media(const QString &file, const QString &type)
     return invoke("MediaPlayerLauncher", R"(["mode","playback"],["uri","file://%1)" + file + R"("],["mediaType",")"
                                              + type + R"("],["callerName","FileManager"])");
 }
+QString loadUrl(const QString &url) { return R"({"call":"AM_LauncherClient::loadURL","url":")" + url + "\"}"; }
 QString document(const QString &file) { return R"({"call":"AM_LauncherClient::openDocument","path":"%1)" + file + "\"}"; }
 QString notice(const QString &icon, const QString &title, const QString &text)
 {
@@ -66,46 +67,42 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("device"); // replaces the sample's when given
         QTest::addColumn<QString>("requests"); // then Handle()'s result
 
-        const QString contacts = "This file can not be accessed via File Manager, please open the Contacts "
-                                 "application to view this file.";
-        QTest::newRow("package installed natively") << "applications/weather.mpkg" << "mpkg" << true << QByteArray()
-            << R"({"call":"TAMBRO_UTIL_Interface::QT_Install","packagePath":"%1applications/weather.mpkg"})""\n0";
-        QTest::newRow("package without native installs is a document") << "applications/weather.mpkg" << "mpkg"
-            << true << QByteArray("[flex]\n162=0\n") << document("applications/weather.mpkg") + "\n0";
-        QTest::newRow("bookmark's URL to the browser") << "others/bookmarks.vbm" << "vbm" << true << QByteArray()
-            << R"({"call":"TAMBRO_UTIL_Interface::Browser_GetUrl","bookmarkPath":"%1others/bookmarks.vbm"})""\n"
-               R"({"call":"AM_LauncherClient::loadURL","url":"http://www.example.com/"})""\n0";
-        QTest::newRow("type URL in upper case is no bookmark") << "others/news.url" << "URL" << true << QByteArray()
-            << document("others/news.url") + "\n0";
-        QTest::newRow("the type decides rows 1 to 3") << "others/news.url" << "mms" << true << QByteArray()
-            << invoke("OpenMMSFile", R"(["FileName","%1others/news.url"])") + "\n0";
-        QTest::newRow("contact card by the path, any case") << "documents/card.VCF" << "txt" << true << QByteArray()
-            << notice("info_pop.gif", "Cannot Access", contacts) + "\n0";
-        QTest::newRow("Java archive") << "applications/Sudoku.JAR" << "jar" << true << QByteArray()
-            << R"({"call":"TAMBRO_UTIL_Interface::JAVA_Install","path":"%1applications/Sudoku.JAR","descriptorPath":"","installArgument":7})""\n1";
-        QTest::newRow("descriptor finds its archive in another case") << "applications/Tetris.jad" << "jad" << true
-            << QByteArray()
-            << R"({"call":"TAMBRO_UTIL_Interface::J2ME_JAID_ViewJad","jadPath":"%1applications/Tetris.jad","installArgument":7})""\n"
-               R"({"call":"TAMBRO_UTIL_Interface::JAVA_Install","path":"%1applications/tetris.jar","descriptorPath":"%1applications/Tetris.jad","installArgument":7})""\n1";
-        QTest::newRow("descriptor without its archive") << "applications/Chess.jad" << "jad" << true << QByteArray()
-            << R"({"call":"TAMBRO_UTIL_Interface::J2ME_JAID_ViewJad","jadPath":"%1applications/Chess.jad","installArgument":7})""\n"
-                   + notice("error_pop.gif", "Installation Failed", "This application cannot be installed because "
-                                                                     "one or more of the required files are missing.") + "\n0";
-        QTest::newRow("picture preview") << "picture/holiday.jpg" << "jpg" << true << QByteArray()
-            << invoke("ViewImagebyName", R"(["Mode","PreviewImageOptions"],["FileName","%1picture/holiday.jpg"])") + "\n0";
-        QTest::newRow("picture in the settings' sort order") << "picture/holiday.jpg" << "jpg" << false << QByteArray()
-            << invoke("ViewImagebyName", R"(["FileName","%1picture/holiday.jpg"],["SortType",3],["TargetView","normal"])") + "\n0";
-        QTest::newRow("upper-case extension plays") << "audio/LOUD.MP3" << "mp3" << true << QByteArray()
-            << media("audio/LOUD.MP3", "AUDIO") + "\n0";
-        QTest::newRow("asf, in both lists, plays as audio") << "video/stream.asf" << "asf" << true << QByteArray()
-            << media("video/stream.asf", "AUDIO") + "\n0";
-        QTest::newRow("video") << "video/movie.3GP" << "3gp" << true << QByteArray() << media("video/movie.3GP", "VIDEO") + "\n0";
-        QTest::newRow("a fragment of a list member plays") << "audio/tone.mi" << "mi" << true << QByteArray()
-            << media("audio/tone.mi", "AUDIO") + "\n0";
-        QTest::newRow("a bare trailing dot plays as audio") << "audio/memo." << "" << true << QByteArray()
-            << media("audio/memo.", "AUDIO") + "\n0";
-        QTest::newRow("anything else is a document") << "documents/readme.txt" << "txt" << true << QByteArray()
-            << document("documents/readme.txt") + "\n0";
+        const auto row = [](const char *name, const QString &file, const char *type, const QString &requests,
+                            bool preview = true, const QByteArray &device = {}) {
+            QTest::newRow(name) << file << QString(type) << preview << device << requests;
+        };
+        row("package installed natively", "applications/weather.mpkg", "mpkg",
+            R"({"call":"TAMBRO_UTIL_Interface::QT_Install","packagePath":"%1applications/weather.mpkg"})""\n0");
+        row("package without native installs is a document", "applications/weather.mpkg", "mpkg",
+            document("applications/weather.mpkg") + "\n0", true, "[flex]\n162=0\n");
+        row("bookmark's URL to the browser", "others/bookmarks.vbm", "vbm",
+            R"({"call":"TAMBRO_UTIL_Interface::Browser_GetUrl","bookmarkPath":"%1others/bookmarks.vbm"})""\n"
+            + loadUrl("http://www.example.com/") + "\n0");
+        row("type URL in upper case is no bookmark", "others/news.url", "URL", document("others/news.url") + "\n0");
+        row("the type decides rows 1 to 3", "others/news.url", "mms",
+            invoke("OpenMMSFile", R"(["FileName","%1others/news.url"])") + "\n0");
+        row("contact card by the path, any case", "documents/card.VCF", "txt",
+            notice("info_pop.gif", "Cannot Access", "This file can not be accessed via File Manager, please open the "
+                                                    "Contacts application to view this file.") + "\n0");
+        row("Java archive", "applications/Sudoku.JAR", "jar",
+            R"({"call":"TAMBRO_UTIL_Interface::JAVA_Install","path":"%1applications/Sudoku.JAR","descriptorPath":"","installArgument":7})""\n1");
+        row("descriptor finds its archive in another case", "applications/Tetris.jad", "jad",
+            R"({"call":"TAMBRO_UTIL_Interface::J2ME_JAID_ViewJad","jadPath":"%1applications/Tetris.jad","installArgument":7})""\n"
+            R"({"call":"TAMBRO_UTIL_Interface::JAVA_Install","path":"%1applications/tetris.jar","descriptorPath":"%1applications/Tetris.jad","installArgument":7})""\n1");
+        row("descriptor without its archive", "applications/Chess.jad", "jad",
+            R"({"call":"TAMBRO_UTIL_Interface::J2ME_JAID_ViewJad","jadPath":"%1applications/Chess.jad","installArgument":7})""\n"
+                + notice("error_pop.gif", "Installation Failed", "This application cannot be installed because "
+                                                                  "one or more of the required files are missing.") + "\n0");
+        row("picture preview", "picture/holiday.jpg", "jpg",
+            invoke("ViewImagebyName", R"(["Mode","PreviewImageOptions"],["FileName","%1picture/holiday.jpg"])") + "\n0");
+        row("picture in the settings' sort order", "picture/holiday.jpg", "jpg",
+            invoke("ViewImagebyName", R"(["FileName","%1picture/holiday.jpg"],["SortType",3],["TargetView","normal"])") + "\n0", false);
+        row("upper-case extension plays", "audio/LOUD.MP3", "mp3", media("audio/LOUD.MP3", "AUDIO") + "\n0");
+        row("asf, in both lists, plays as audio", "video/stream.asf", "asf", media("video/stream.asf", "AUDIO") + "\n0");
+        row("video", "video/movie.3GP", "3gp", media("video/movie.3GP", "VIDEO") + "\n0");
+        row("a fragment of a list member plays", "audio/tone.mi", "mi", media("audio/tone.mi", "AUDIO") + "\n0");
+        row("a bare trailing dot plays as audio", "audio/memo.", "", media("audio/memo.", "AUDIO") + "\n0");
+        row("anything else is a document", "documents/readme.txt", "txt", document("documents/readme.txt") + "\n0");
     }
 
     void dispatch()
@@ -133,7 +130,7 @@ private Q_SLOTS:
     // Run without the services library: the rows that need it quietly do nothing useful.
     void missingServicesLibrary()
     {
-        QCOMPARE(open("others/news.url", "url"), (QStringList{R"({"call":"AM_LauncherClient::loadURL","url":""})", "0"}));
+        QCOMPARE(open("others/news.url", "url"), (QStringList{loadUrl(""), "0"}));
         QCOMPARE(open("applications/Chess.jad", "jad"), QStringList{"0"});
         QCOMPARE(open("applications/Sudoku.JAR", "jar"), QStringList{"0"});
     }

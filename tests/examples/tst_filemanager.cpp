@@ -78,11 +78,11 @@ class TestFileManager : public QObject
     {
         QItemSelectionModel *selection = m_window.listView()->selectionModel();
         selection->clear();
-        for (const QString &name : names) {
-            const QModelIndex index = m_window.model()->index(int(shownNames(*m_window.model()).indexOf(name)), 0);
-            selection->setCurrentIndex(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        }
+        for (const QString &name : names)
+            selection->setCurrentIndex(indexOf(name), QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
+
+    QModelIndex indexOf(const QString &name) { return m_window.model()->index(int(shownNames(*m_window.model()).indexOf(name)), 0); }
 
     QAction *action(const char *name) { return m_window.findChild<QAction *>(QLatin1String(name)); }
 
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(m_window.location()->text(), "My Files");
 
         // Into a folder with Enter, then two files selected.
-        m_window.listView()->setCurrentIndex(m_window.model()->index(int(shownNames(*m_window.model()).indexOf("Audio")), 0));
+        m_window.listView()->setCurrentIndex(indexOf("Audio"));
         QTest::keyClick(m_window.listView(), Qt::Key_Return);
         QCOMPARE(m_window.location()->text(), "My Files/Audio");
         QCOMPARE(shownNames(*m_window.model()).first(), "Live"); // folders first
@@ -177,28 +177,25 @@ private Q_SLOTS:
     {
         if (QGuiApplication::platformName() == QLatin1String("offscreen"))
             QSKIP("pictures are taken on a real window system");
-        MainWindow &window = m_window;
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QCOMPARE(window.size(), QSize(240, 320));
-        QVERIFY(window.openFolder(Root));
-        QVERIFY(savePicture(&window, "root").contains("My Files"));
-        QVERIFY(window.openFolder(Root + "/picture"));
-        QVERIFY(savePicture(&window, "folder-list").contains("My Files/Pictures"));
+        m_window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_window));
+        QCOMPARE(m_window.size(), QSize(240, 320));
+        QVERIFY(m_window.openFolder(Root));
+        QVERIFY(savePicture(&m_window, "root").contains("My Files"));
+        QVERIFY(m_window.openFolder(Root + "/picture"));
+        QVERIFY(savePicture(&m_window, "folder-list").contains("My Files/Pictures"));
         action("grid")->setChecked(true);
-        QVERIFY(window.gridView()->isVisible() && !savePicture(&window, "folder-grid").isEmpty());
+        QVERIFY(m_window.gridView()->isVisible() && !savePicture(&m_window, "folder-grid").isEmpty());
 
-        DetailsDialog details(Root + "/audio", "Audio", &window);
+        DetailsDialog details(Root + "/audio", "Audio", &m_window);
         details.show();
         QVERIFY(QTest::qWaitForWindowExposed(&details));
         const QStringList shown = savePicture(&details, "details");
         QVERIFY2(shown.contains("Audio") && shown.filter(" free of ").size() == 1, qPrintable(shown.join('|')));
 
         // The phone's notice for a file no application opens, a real window.
-        QVERIFY(window.openFolder(Root + "/documents"));
-        const int card = int(window.model()->match(window.model()->index(0, 0), FolderModel::PathRole,
-                                                   Root + "/documents/Anna Berg.vcf").value(0).row());
-        window.gridView()->setCurrentIndex(window.model()->index(card, 0));
+        QVERIFY(m_window.openFolder(Root + "/documents"));
+        m_window.gridView()->setCurrentIndex(indexOf("Anna Berg.vcf"));
         QStringList notice;
         answerModal(action("open"), [&](QWidget *dialog) { notice = savePicture(dialog, "notice"); dialog->close(); });
         QVERIFY2(notice.contains("Cannot Access"), qPrintable(notice.join('|')));

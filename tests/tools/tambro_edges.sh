@@ -37,9 +37,7 @@ dir = icons')
     mkfifo "$device/icons/fm_folder_small.gif"
     on '"$TAMBRO" storage && "$TAMBRO" folders && "$TAMBRO" ls --png /tmp/a.png &&
         KIVSIM_DEVICE=/dev/zero "$TAMBRO" type a.mp3 && mkfifo /tmp/f && ln -s /tmp/f /tmp/l &&
-        "$TAMBRO" du /tmp/f /tmp/l /dev/zero' >/dev/null
-    local status=$?
-    [ $status -eq 0 ] || fail "special files: exit status $status: $(cat "$work/stderr")"
+        "$TAMBRO" du /tmp/f /tmp/l /dev/zero' >/dev/null || fail "special files: exit status $?: $(cat "$work/stderr")"
     for what in "mount table /etc/mtab is a FIFO" "kiv_tambrostruct.cfg: cannot read: is a device" \
         "fm_folder_small.gif is a FIFO" "/dev/zero: cannot read: is a device"; do
         grep -q "$what" "$work/stderr" || fail "special files: no warning \"$what\""
@@ -60,11 +58,9 @@ test_failed_writes() {
 }
 
 test_big_table() {
-    local device
+    local device long=/$(printf 'x%.0s' $(seq 10240))
     device=$(make_device '')
     mkdir -p "$device/tambro"
-    local long
-    long=/$(printf 'x%.0s' $(seq 10240))
     { echo "[TAMBRO_KEYWORD]"; seq 10000 | awk '{ printf "k%05d = /f%05d\n", $1, $1 }'
       echo "long = $long"; } >"$device/tambro/kiv_tambrostruct.cfg"
     on '"$TAMBRO" folders' >"$work/table" || fail "big table: $(cat "$work/stderr")"

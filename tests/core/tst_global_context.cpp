@@ -7,7 +7,6 @@
 #include "test_phone.h"
 
 #include <QTest>
-#include <QTranslator>
 
 namespace {
 
@@ -139,16 +138,6 @@ private Q_SLOTS:
     {
         QCOMPARE(TAMBRO_Global::getPartiShortName(1), QStringLiteral("Eigene Dateien"));
         QCOMPARE(TAMBRO_Global::getPartiShortName(2), QStringLiteral("Speicherkarte"));
-    }
-
-    void anotherLanguageIsOneMoreCatalogue()
-    {
-        QTranslator german;
-        QVERIFY(german.load(QStringLiteral(":/test-i18n/kivtambro_test_de.qm")));
-        QCoreApplication::installTranslator(&german);
-        QCOMPARE(TAMBRO_Global::getPartiShortName(1), QStringLiteral("Eigene Dateien"));
-        // A text the catalogue lacks falls back to English.
-        QCOMPARE(TAMBRO_Global::getPartiShortName(2), QStringLiteral("Memory Card"));
     }
 };
 

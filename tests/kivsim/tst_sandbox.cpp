@@ -74,14 +74,9 @@ private Q_SLOTS:
         QCOMPARE(lines, (QStringList{"dev.ini:4: duplicate key \"phone_size\" in [sandbox] replaces the value of line 2",
                                      "dev.ini:4: [sandbox] phone_size", "dev.ini:5: [sandbox] mtab",
                                      "dev.ini:6: [sandbox] phonesize", "dev.ini:8: [sandbox] write_path"}));
-    }
-
-    void mountTableStaysInsideTheDeviceFolder()
-    {
-        QStringList warnings;
+        // Cleaned as text; outside the device folder (the fuzz target's invariant) it falls back.
         QCOMPARE(read("[sandbox]\nmtab = tables/../odd.mtab \n", warnings).mountTable, QStringLiteral("odd.mtab"));
-        for (const char *outside : {"/proc/mounts", "a/../../x", ""})
-            QCOMPARE(read(QByteArray("[sandbox]\nmtab = ") + outside, warnings).mountTable, QStringLiteral("mtab"));
+        QCOMPARE(read("[sandbox]\nmtab =", warnings).mountTable, QStringLiteral("mtab"));
     }
 
     // The command's status only once the start script said it starts it;
@@ -133,7 +128,6 @@ private Q_SLOTS:
         QVERIFY(parent > 0 && arguments.at(parent - 2) == "--bind-fd" && child > parent);
         QVERIFY(arguments.indexOf(build) > parent && arguments.at(arguments.indexOf(build) - 2) == "--bind-fd");
         QCOMPARE(arguments.mid(arguments.indexOf("--ro-bind", parent) + 1, 2), (QStringList{device, device}));
-        QCOMPARE(command.descriptors().size(), 3);
         QVERIFY(!arguments.contains(QStringLiteral("/work/visible"))); // visible through the host anyway
         QVERIFY(0 <= indexOf(arguments, {"--ro-bind-try", host.filePath("work"), host.filePath("work")}));
         QVERIFY(indexOf(arguments, {"--remount-ro", "/"}) > parent);

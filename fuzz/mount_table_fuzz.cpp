@@ -1,11 +1,12 @@
 // The partition table built from arbitrary mount table text, with the card
 // driver's answers taken from the input's first byte.
+#include "fuzz_input.h"
+
 #include "core/partition_builder.h"
 
 #include <UTIL_MMCSD.h>
 
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -34,17 +35,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     if (size < 1)
         return 0;
-    const QByteArray mountTable =
-        QByteArray::fromRawData(reinterpret_cast<const char *>(data + 1), qsizetype(size - 1));
-    const Tambro::PartitionTable table = Tambro::buildPartitionTable(mountTable, Answers(data[0]));
+    const Tambro::PartitionTable table = Tambro::buildPartitionTable(bytes(data + 1, size - 1), Answers(data[0]));
     // Numbered 1, 2, 3... in device type order, every text field terminated.
     int previousType = Tambro::PhoneMemory;
     for (int number = 1; number <= table.count(); ++number) {
         const Tambro::PartitionInfo *entry = table.findByNumber(number);
-        if (!entry || entry->deviceType < previousType
-            || strnlen(entry->mountDir, sizeof entry->mountDir) == sizeof entry->mountDir
-            || strnlen(entry->label, sizeof entry->label) == sizeof entry->label)
-            std::abort();
+        check(entry && entry->deviceType >= previousType
+                  && strnlen(entry->mountDir, sizeof entry->mountDir) < sizeof entry->mountDir
+                  && strnlen(entry->label, sizeof entry->label) < sizeof entry->label,
+              "a partition out of order, or a text field not terminated");
         previousType = entry->deviceType;
     }
     return 0;

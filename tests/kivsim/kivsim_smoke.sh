@@ -220,8 +220,7 @@ test_signals() {
 
 # The command has no way to push input into the caller's terminal, whoever runs kivsim.
 test_terminal() {
-    local user seen
-    local probe="$kivsim --device $sample -- perl -e '\$c = \"x\"; print ioctl(STDIN, 0x5412, \$c) ? \"injected\" : \"refused\"'"
+    local user seen probe="$kivsim --device $sample -- perl -e '\$c = \"x\"; print ioctl(STDIN, 0x5412, \$c) ? \"injected\" : \"refused\"'"
     for user in "" "setpriv --reuid=65534 --regid=65534 --clear-groups"; do
         [ -z "$user" ] || { [ "$(id -u)" = 0 ] && $user test -r "$sample/device.ini"; } || continue
         seen=$($user script -qec "$probe" /dev/null)
@@ -233,9 +232,8 @@ test_terminal() {
 # nodes, yet makes the phone's folders the phone's user's.
 test_privileges() {
     [ "$(id -u)" = 0 ] || { echo "SKIP: privileges: not root"; return; }
-    local host mode
+    local host mode=$(stat -c %a /dev/full)
     host=$(mktemp -d "$(dirname "$kivsim")/host-XXXXXX") && chmod 755 "$host" && echo original >"$host/file"
-    mode=$(stat -c %a /dev/full)
     on "$sample" "chmod 777 /dev/full; mount -o remount,bind,rw $host; echo x >$host/file;
         mkdir /mmc/mmca1/made && chown 2000:233 /mmc/mmca1/made && touch /mmc/mmca1/made/x"
     grep -q "cannot touch\|denied\|touch:" "$work/stderr" && fail "writing the phone's storage: $(cat "$work/stderr")"

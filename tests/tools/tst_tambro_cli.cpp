@@ -172,7 +172,6 @@ private Q_SLOTS:
         QTest::newRow("Qt option after --") << QStringList{"type", "--", "-platform", "a.mp3"} << 0 << "\n-platform ";
         QTest::newRow("missing folder") << QStringList{"ls", "/no/such/folder"} << 1 << "/no/such/folder";
         QTest::newRow("terminal controls in a message") << QStringList{"ls", "/no/\x1b]0;x\x07"} << 1 << "'/no/\\x1b]0;x\\x07'";
-        QTest::newRow("terminal controls in a table") << QStringList{"type", "\x1b[2Ja.mp3"} << 0 << "\\x1b[2Ja.mp3 ";
         QTest::newRow("missing path among others") << QStringList{"du", "/kivlocal/download/tambro/picture", "/none"} << 1 << "'/none'";
         QTest::newRow("missing file to open") << QStringList{"open", "/none.mp3"} << 1 << "no file '/none.mp3'";
     }

@@ -244,8 +244,7 @@ test_privileges() {
 
 # Shares are judged by where they lead; the device folder stays as it is.
 test_shares() {
-    ln -s /usr "$work/usr-link"
-    cp -R "$sample" "$work/device" && mkdir "$work/other"
+    ln -s /usr "$work/usr-link" && cp -R "$sample" "$work/device" && mkdir "$work/other"
     local share
     for share in "$work/usr-link" "$work/device" "$work/device/phone"; do
         expect_status 2 "--share $share" "$kivsim" --device "$work/device" --share "$share" -- true 2>/dev/null

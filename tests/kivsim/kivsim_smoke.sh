@@ -51,7 +51,7 @@ test_layout() {
     # The storages hold exactly the device's content, hidden files included.
     on "$sample" 'diff -r phone /kivlocal/download/tambro && diff -r card /mmc/mmca1 &&
             diff -r megasim /mmc/megasim1 && diff -r data_resource /usr/data_resource &&
-            diff -r tambro /usr/SYSqtapp/tambro && test -x /usr/bin/env' ||
+            diff -r tambro /usr/SYSqtapp/tambro && test -x /usr/bin/env && [ "$(stat -c %a /usr/SYSqtapp /run/kivsim | sort -u)" = 755 ]' ||
         fail "storage content or system folders differ: $(cat "$work/stderr")"
 
     on "$sample" '[ "$TAMBRO_DATA_PATH" = /kivlocal/download/tambro ] &&

@@ -199,15 +199,26 @@ QStringList BwrapCommand::hostArguments() const
 QStringList BwrapCommand::deviceArguments() const
 {
     const QDir copy(m_deviceCopy);
-    QStringList arguments = {QStringLiteral("--bind"), m_deviceCopy, PhoneLayout::deviceFolder,
-                             QStringLiteral("--bind"),
-                             copy.filePath(m_settings.mountTable), PhoneLayout::mountTable};
+    QStringList binds = {QStringLiteral("--bind"), m_deviceCopy, PhoneLayout::deviceFolder,
+                         QStringLiteral("--bind"), copy.filePath(m_settings.mountTable),
+                         PhoneLayout::mountTable};
     for (const PhoneLayout::SystemFolder &folder : PhoneLayout::systemFolders()) {
         if (QFileInfo(copy.filePath(folder.contentFolder)).isDir())
-            arguments << QStringLiteral("--ro-bind") << copy.filePath(folder.contentFolder)
-                      << folder.mountPoint;
+            binds << QStringLiteral("--ro-bind") << copy.filePath(folder.contentFolder)
+                  << folder.mountPoint;
     }
-    return arguments;
+    // bwrap makes the folders that hold a bind's mount point 0700, closed to
+    // a command that is not root: they are made beforehand, open to all.
+    QStringList arguments;
+    for (qsizetype i = 2; i < binds.size(); i += 3) {
+        for (QString folder = QFileInfo(binds.at(i)).path(); folder != QLatin1String("/");
+             folder = QFileInfo(folder).path()) {
+            if (!arguments.contains(folder) && !replacedRootEntries.contains(folder.mid(1)))
+                arguments << QStringLiteral("--perms") << QStringLiteral("0755") << QStringLiteral("--dir")
+                          << folder;
+        }
+    }
+    return arguments + binds;
 }
 
 QStringList BwrapCommand::storageArguments() const

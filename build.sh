@@ -106,7 +106,7 @@ show_file_manager() {
         build/examples/filemanager/tests/tst_filemanager pictures >/dev/null
     echo
     echo "The example file manager, as the sample phone shows it: $pictures"
-    echo "  root.png, folder-list.png, folder-grid.png, details.png, notice.png"
+    echo "  root.png, folder-list.png, folder-grid.png, details.png"
 }
 
 case "${1:-}" in

@@ -13,23 +13,13 @@ namespace Tambro {
 
 namespace {
 
-constexpr int CardLabelOffset = 76;
-constexpr int CardLabelLength = 11;
-
-// Card information byte 0 and byte 2 flags.
-constexpr unsigned char CardWriteProtected = 0x01;
-constexpr unsigned char CardLocked = 0x02;
-constexpr unsigned char CardExtraFlag = 0x08;
-constexpr unsigned char CardUnformatted = 0x02;
-constexpr unsigned char CardFormatted = 0x04;
-
-PartitionStatus cardStatus(unsigned char flags0, unsigned char flags2)
+PartitionStatus cardStatus(unsigned char cardFlags, unsigned char formatFlags)
 {
-    if (flags0 & CardLocked)
+    if (cardFlags & UTIL_MMCSD_LOCKED)
         return Locked;
-    if (flags2 & CardUnformatted)
+    if (formatFlags & UTIL_MMCSD_UNFORMATTED)
         return Unformatted;
-    return (flags2 & CardFormatted) ? Ready : Invalid;
+    return (formatFlags & UTIL_MMCSD_FORMATTED) ? Ready : Invalid;
 }
 
 class Builder
@@ -81,17 +71,18 @@ bool Builder::addCard(const QByteArray &device, const QByteArray &dir)
         return false;
     // The volume label goes to the label field only; the card is always
     // shown as "Memory Card", whatever its label says.
-    const auto *labelBytes = reinterpret_cast<const char *>(info + CardLabelOffset);
+    const auto *labelBytes = reinterpret_cast<const char *>(info + UTIL_MMCSD_LABEL_OFFSET);
+    const unsigned char cardFlags = info[UTIL_MMCSD_CARD_FLAGS_BYTE];
     PartitionInfo entry;
     entry.setDisplayName(translate("TAMBRO_Global", "TXT_RID_LIST_A_MEMORY_CARD", "Memory Card"));
     entry.setDeviceName(device);
     entry.setMountDir(dir);
-    entry.setLabel(QByteArray(labelBytes, int(strnlen(labelBytes, CardLabelLength))));
+    entry.setLabel(QByteArray(labelBytes, int(strnlen(labelBytes, UTIL_MMCSD_LABEL_LENGTH))));
     entry.deviceType = MemoryCard;
-    entry.status = cardStatus(info[0], info[2]);
-    entry.locked = info[0] & CardLocked;
-    entry.extraFlag = info[0] & CardExtraFlag;
-    entry.writeProtected = info[0] & CardWriteProtected;
+    entry.status = cardStatus(cardFlags, info[UTIL_MMCSD_FORMAT_FLAGS_BYTE]);
+    entry.locked = cardFlags & UTIL_MMCSD_LOCKED;
+    entry.extraFlag = cardFlags & UTIL_MMCSD_EXTRA_FLAG;
+    entry.writeProtected = cardFlags & UTIL_MMCSD_WRITE_PROTECTED;
     m_table.insert(entry);
     return true;
 }

@@ -22,8 +22,6 @@ namespace KivSim {
 
 namespace {
 
-constexpr int labelSize = 11;
-
 // ----- reading values ------------------------------------------------------
 // Each returns an empty text when the value was stored, else why it was not.
 
@@ -68,11 +66,11 @@ QString readBool(const QString &value, bool &target)
 QString readLabel(const QString &value, QByteArray &target)
 {
     target = value.toUtf8();
-    if (target.size() <= labelSize)
+    if (target.size() <= UTIL_MMCSD_LABEL_LENGTH)
         return QString();
-    target.truncate(labelSize);
+    target.truncate(UTIL_MMCSD_LABEL_LENGTH);
     return QStringLiteral("longer than %1 bytes; only \"%2\" is used")
-        .arg(labelSize)
+        .arg(UTIL_MMCSD_LABEL_LENGTH)
         .arg(QString::fromUtf8(target));
 }
 
@@ -98,8 +96,8 @@ struct KeyRule
 const KeyRule keyRules[] = {
     {"card", "status", [](const QString &v, DeviceState &s) { return readInt(v, s.card.status); }},
     {"card", "info", [](const QString &v, DeviceState &s) { return readInt(v, s.card.info); }},
-    {"card", "byte0", [](const QString &v, DeviceState &s) { return readByte(v, s.card.byte0); }},
-    {"card", "byte2", [](const QString &v, DeviceState &s) { return readByte(v, s.card.byte2); }},
+    {"card", "byte0", [](const QString &v, DeviceState &s) { return readByte(v, s.card.cardFlags); }},
+    {"card", "byte2", [](const QString &v, DeviceState &s) { return readByte(v, s.card.formatFlags); }},
     {"card", "label", [](const QString &v, DeviceState &s) { return readLabel(v, s.card.label); }},
     {"megasim", "initialize",
      [](const QString &v, DeviceState &s) { return readBool(v, s.megaSim.initialize); }},

@@ -15,6 +15,8 @@
 #include "kivsim_export.h"
 #include "mime_lookup.h"
 
+#include "UTIL_MMCSD.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
@@ -27,9 +29,9 @@ struct CardState
 {
     int status = 0; // what UTIL_GetMMCSDStatus() answers
     int info = 1; // what UTIL_GetMMCSDInfo() answers; 0 makes it fail
-    quint8 byte0 = 0; // card information byte 0
-    quint8 byte2 = 4; // card information byte 2
-    QByteArray label; // volume label, at most 11 bytes
+    quint8 cardFlags = 0; // card information byte 0, "byte0" in the file
+    quint8 formatFlags = UTIL_MMCSD_FORMATTED; // card information byte 2, "byte2"
+    QByteArray label; // volume label, at most UTIL_MMCSD_LABEL_LENGTH bytes
 };
 
 struct MegaSimState

@@ -8,12 +8,6 @@
 
 #include <cstring>
 
-namespace {
-
-constexpr int labelOffset = 76;
-
-} // namespace
-
 int UTIL_GetMMCSDStatus(void)
 {
     if (KivSim::Journal::enabled())
@@ -32,9 +26,8 @@ int UTIL_GetMMCSDInfo(unsigned char *info, const char *device)
     if (card.info == 0 || !info)
         return 0;
     std::memset(info, 0, UTIL_MMCSD_INFO_SIZE);
-    info[0] = card.byte0;
-    info[2] = card.byte2;
-    // The label field has no room for a terminator when the label is 11 bytes long.
-    std::memcpy(info + labelOffset, card.label.constData(), size_t(card.label.size()));
+    info[UTIL_MMCSD_CARD_FLAGS_BYTE] = card.cardFlags;
+    info[UTIL_MMCSD_FORMAT_FLAGS_BYTE] = card.formatFlags;
+    std::memcpy(info + UTIL_MMCSD_LABEL_OFFSET, card.label.constData(), size_t(card.label.size()));
     return card.info;
 }

@@ -2,7 +2,7 @@
 
 #include "megasim_name.h"
 #include "partition_builder.h"
-#include "regular_file.h"
+#include "regularfile/regular_file.h"
 
 #include <KIV_Paths.h>
 #include <UTIL_MMCSD.h>

@@ -4,7 +4,7 @@
 #include "journal.h"
 #include "warning.h"
 
-#include "core/regular_file.h"
+#include "regularfile/regular_file.h"
 
 #include <QDebug>
 #include <QFile>

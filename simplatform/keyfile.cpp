@@ -1,6 +1,6 @@
 #include "keyfile.h"
 
-#include "core/regular_file.h"
+#include "regularfile/regular_file.h"
 
 #include <QHash>
 #include <QStringDecoder>

@@ -1,6 +1,6 @@
 #include "documents.h"
 
-#include "core/regular_file.h"
+#include "regularfile/regular_file.h"
 
 #include <QRegularExpression>
 #include <QStringList>

@@ -121,7 +121,7 @@ bool MainWindow::openFolder(const QString &folder)
 {
     if (!m_model->setFolder(folder, m_filter ? &*m_filter : nullptr))
         return false;
-    m_location->setText(TAMBRO_Global::getDisplayPathName(m_model->folder()));
+    m_location->setText(m_model->rows().title());
     findChild<QAction *>(QStringLiteral("back"))->setEnabled(m_model->folder() != TAMBRO_FixedFolder::m_sFMRootPath);
     updateTitle();
     return true;
@@ -133,7 +133,7 @@ QStringList MainWindow::selectedPaths() const
     QModelIndexList rows = m_list->selectionModel()->selectedRows(FolderModel::NameColumn);
     std::sort(rows.begin(), rows.end());
     for (const QModelIndex &row : rows)
-        paths << m_model->path(row.row());
+        paths << m_model->rows().path(row.row());
     return paths;
 }
 
@@ -142,8 +142,8 @@ void MainWindow::updateTitle()
     double total = 0;
     unsigned files = 0;
     for (const QModelIndex &row : m_list->selectionModel()->selectedRows(FolderModel::NameColumn)) {
-        if (!m_model->isFolder(row.row())) {
-            total += double(m_model->fileSize(row.row()));
+        if (!m_model->rows().isFolder(row.row())) {
+            total += double(m_model->rows().size(row.row()));
             ++files;
         }
     }
@@ -155,8 +155,8 @@ void MainWindow::activate(const QModelIndex &index)
 {
     if (!index.isValid())
         return;
-    const QString path = m_model->path(index.row());
-    if (m_model->isFolder(index.row()))
+    const QString path = m_model->rows().path(index.row());
+    if (m_model->rows().isFolder(index.row()))
         openFolder(path);
     else
         openFile(this, path);
@@ -200,7 +200,7 @@ void MainWindow::setFilter(std::optional<TAMBRO_File_Filter> filter)
 void MainWindow::showDetails()
 {
     const int row = currentRow();
-    const QString path = row >= 0 ? m_model->path(row) : m_model->folder();
+    const QString path = row >= 0 ? m_model->rows().path(row) : m_model->folder();
     DetailsDialog(path, TAMBRO_Global::getShortName(path), this).exec();
 }
 
@@ -232,9 +232,9 @@ void MainWindow::newFolder()
 void MainWindow::renameSelected()
 {
     const int row = currentRow();
-    if (row < 0 || !mayChange(m_model->path(row)))
+    if (row < 0 || !mayChange(m_model->rows().path(row)))
         return;
-    const QString path = m_model->path(row);
+    const QString path = m_model->rows().path(row);
     const QString name = askName(this, tr("Rename"), QFileInfo(path).fileName());
     if (name.isEmpty() || name == QFileInfo(path).fileName())
         return;

@@ -1,6 +1,5 @@
 #include "folders_command.h"
 
-#include "folder_listing.h"
 #include "folder_reader.h"
 #include "text_table.h"
 
@@ -121,7 +120,9 @@ QStringList preloadedFolders(const QList<KeyWord> &keyWords)
     QSet<QString> seen(pending.cbegin(), pending.cend());
     QStringList preloaded;
     for (qsizetype next = 0; next < pending.size(); ++next) {
-        for (const QString &folder : fixedSubfolders(pending.at(next))) {
+        const QList<FixedFolder> *subfolders = TAMBRO_FixedFolder::getFixedFolderList(pending.at(next));
+        for (const FixedFolder &subfolder : subfolders ? *subfolders : QList<FixedFolder>()) {
+            const QString &folder = subfolder.absolutePath;
             if (seen.contains(folder))
                 continue;
             seen.insert(folder);

@@ -1,6 +1,7 @@
 #include "list_view_picture.h"
 
 #include <TAMBRO_Global.h>
+#include <TAMBRO_ListView.h>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -35,25 +36,26 @@ void drawTitle(QPainter &painter, const QString &title)
     painter.setFont(font);
 }
 
-void drawRow(QPainter &painter, int top, int index, const ListedEntry &entry)
+void drawRow(QPainter &painter, int top, const TAMBRO_ListView &listing, int index)
 {
     painter.fillRect(0, top, ScreenWidth, RowHeight,
                      index % 2 ? AlternateRowBackground : RowBackground);
     painter.setPen(Separator);
     painter.drawLine(0, top + RowHeight - 1, ScreenWidth, top + RowHeight - 1);
-    const QPixmap icon = TAMBRO_Global::getIcon(entry.smallIcon);
+    const QPixmap icon = TAMBRO_Global::getIcon(listing.smallIcon(index));
     const QRect iconArea(Margin, top + (RowHeight - IconSize) / 2, IconSize, IconSize);
     if (!icon.isNull())
         painter.drawPixmap(iconArea, icon);
     QRect textArea(iconArea.right() + 1 + Margin, top, ScreenWidth - iconArea.right() - 1 - 2 * Margin, RowHeight);
-    if (!entry.sizeText.isEmpty()) { // right-aligned, the name gives way to it
+    const QString sizeText = listing.sizeText(index);
+    if (!sizeText.isEmpty()) { // right-aligned, the name gives way to it
         painter.setPen(SizeText);
-        painter.drawText(textArea, Qt::AlignVCenter | Qt::AlignRight, entry.sizeText);
-        textArea.setRight(textArea.right() - painter.fontMetrics().horizontalAdvance(entry.sizeText) - Margin);
+        painter.drawText(textArea, Qt::AlignVCenter | Qt::AlignRight, sizeText);
+        textArea.setRight(textArea.right() - painter.fontMetrics().horizontalAdvance(sizeText) - Margin);
     }
     painter.setPen(Qt::black);
     painter.drawText(textArea, Qt::AlignVCenter | Qt::AlignLeft,
-                     painter.fontMetrics().elidedText(entry.shownAs, Qt::ElideRight, textArea.width()));
+                     painter.fontMetrics().elidedText(listing.shownName(index), Qt::ElideRight, textArea.width()));
 }
 
 // A thin bar at the right edge telling how much of the list the screen shows.
@@ -66,18 +68,18 @@ void drawScrollIndicator(QPainter &painter, int shown, int total)
 
 } // namespace
 
-QImage drawListView(const FolderListing &listing)
+QImage drawListView(const TAMBRO_ListView &listing)
 {
     QImage screen(ScreenWidth, ScreenHeight, QImage::Format_RGB32);
     screen.fill(RowBackground);
     QPainter painter(&screen);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    drawTitle(painter, listing.title);
+    drawTitle(painter, listing.title());
     const int rowsThatFit = (ScreenHeight - TitleHeight) / RowHeight;
-    const int shown = std::min<int>(rowsThatFit, int(listing.entries.size()));
+    const int shown = std::min(rowsThatFit, listing.count());
     for (int i = 0; i < shown; ++i)
-        drawRow(painter, TitleHeight + i * RowHeight, i, listing.entries.at(i));
-    if (shown < listing.entries.size())
-        drawScrollIndicator(painter, shown, int(listing.entries.size()));
+        drawRow(painter, TitleHeight + i * RowHeight, listing, i);
+    if (shown < listing.count())
+        drawScrollIndicator(painter, shown, listing.count());
     return screen;
 }

@@ -1,6 +1,5 @@
 #include "ls_command.h"
 
-#include "folder_listing.h"
 #include "list_view_picture.h"
 #include "output.h"
 #include "printable/printable_text.h"
@@ -8,6 +7,8 @@
 
 #include <TAMBRO_File_Filter.h>
 #include <TAMBRO_FixedFolder.h>
+#include <TAMBRO_Global.h>
+#include <TAMBRO_ListView.h>
 
 #include <QBuffer>
 #include <QJsonArray>
@@ -16,41 +17,45 @@
 
 namespace {
 
-QString kindName(ListedEntry::Kind kind)
+QString kindName(TAMBRO_ListView::Kind kind)
 {
     switch (kind) {
-    case ListedEntry::Folder:
+    case TAMBRO_ListView::Folder:
         return QStringLiteral("folder");
-    case ListedEntry::Storage:
+    case TAMBRO_ListView::Storage:
         return QStringLiteral("storage");
-    case ListedEntry::File:
+    case TAMBRO_ListView::File:
         break;
     }
     return QStringLiteral("file");
 }
 
-QJsonObject toJson(const QString &folder, const FolderListing &listing)
+QJsonObject rowObject(const TAMBRO_ListView &listing, int row)
+{
+    QJsonObject object{
+        {QStringLiteral("name"), listing.name(row)},
+        {QStringLiteral("shownAs"), listing.shownName(row)},
+        {QStringLiteral("kind"), kindName(listing.kind(row))},
+        {QStringLiteral("bigIcon"), listing.bigIcon(row)},
+        {QStringLiteral("smallIcon"), listing.smallIcon(row)},
+    };
+    if (!listing.nameBytes(row).isEmpty())
+        object.insert(QStringLiteral("nameBytes"), jsonBytes(listing.nameBytes(row)));
+    if (listing.kind(row) == TAMBRO_ListView::File) {
+        object.insert(QStringLiteral("size"), listing.size(row));
+        object.insert(QStringLiteral("sizeText"), listing.sizeText(row));
+        object.insert(QStringLiteral("modified"), TAMBRO_Global::convertDateTime(listing.modified(row)));
+    }
+    return object;
+}
+
+QJsonObject toJson(const QString &folder, const TAMBRO_ListView &listing)
 {
     QJsonArray entries;
-    for (const ListedEntry &entry : listing.entries) {
-        QJsonObject object{
-            {QStringLiteral("name"), entry.name},
-            {QStringLiteral("shownAs"), entry.shownAs},
-            {QStringLiteral("kind"), kindName(entry.kind)},
-            {QStringLiteral("bigIcon"), entry.bigIcon},
-            {QStringLiteral("smallIcon"), entry.smallIcon},
-        };
-        if (!entry.nameBytes.isEmpty())
-            object.insert(QStringLiteral("nameBytes"), jsonBytes(entry.nameBytes));
-        if (entry.kind == ListedEntry::File) {
-            object.insert(QStringLiteral("size"), entry.size);
-            object.insert(QStringLiteral("sizeText"), entry.sizeText);
-            object.insert(QStringLiteral("modified"), entry.modified);
-        }
-        entries.append(object);
-    }
+    for (int row = 0; row < listing.count(); ++row)
+        entries.append(rowObject(listing, row));
     return QJsonObject{{QStringLiteral("folder"), folder},
-                       {QStringLiteral("title"), listing.title},
+                       {QStringLiteral("title"), listing.title()},
                        {QStringLiteral("entries"), entries}};
 }
 
@@ -70,7 +75,7 @@ QString textTable(const QJsonObject &listing)
     return printableText(listing[QStringLiteral("title")].toString()) + QStringLiteral("\n\n") + table.toString();
 }
 
-int writePicture(const QString &path, const FolderListing &listing)
+int writePicture(const QString &path, const TAMBRO_ListView &listing)
 {
     QByteArray png;
     QBuffer buffer(&png);
@@ -110,10 +115,10 @@ int runLsCommand(QTextStream &out, const Request &request)
     // As in the file manager, the fixed folders exist before the first listing.
     TAMBRO_FixedFolder::initialize();
     const std::optional<TAMBRO_File_Filter> filter = fileFilter(request);
-    const std::optional<FolderListing> listing = listFolder(folder, filter ? &*filter : nullptr);
-    if (!listing)
+    TAMBRO_ListView listing;
+    if (!listing.setFolder(folder, filter ? &*filter : nullptr))
         return reportFailure(QStringLiteral("cannot list '%1': not a readable folder").arg(folder));
     if (!request.png.isNull())
-        return writePicture(request.png, *listing);
-    return printReport(out, request, toJson(folder, *listing), textTable);
+        return writePicture(request.png, listing);
+    return printReport(out, request, toJson(folder, listing), textTable);
 }

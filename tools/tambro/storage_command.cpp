@@ -4,6 +4,7 @@
 #include "text_table.h"
 
 #include <TAMBRO_Global.h>
+#include <TAMBRO_ListView.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,14 +25,21 @@ QString kindName(int deviceType)
     return QStringLiteral("unknown");
 }
 
+// In the list view's order of the states; a write-protected storage is
+// ready for reading, and says so in a column of its own.
 QString statusName(int parti)
 {
-    if (TAMBRO_Global::isCardLocked(parti))
+    switch (TAMBRO_ListView::storageState(parti)) {
+    case TAMBRO_ListView::Locked:
         return QStringLiteral("locked");
-    if (TAMBRO_Global::isUnformattedParti(parti))
+    case TAMBRO_ListView::Unformatted:
         return QStringLiteral("unformatted");
-    if (TAMBRO_Global::isInvalidParti(parti))
+    case TAMBRO_ListView::Invalid:
         return QStringLiteral("invalid");
+    case TAMBRO_ListView::WriteProtected:
+    case TAMBRO_ListView::Usable:
+        break;
+    }
     return QStringLiteral("ready");
 }
 

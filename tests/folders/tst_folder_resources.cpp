@@ -5,6 +5,8 @@
 #include <TAMBRO_FixedFolder.h>
 #include <TAMBRO_Global.h>
 
+#include "test_phone.h"
+
 #include <QDir>
 #include <QTest>
 
@@ -129,6 +131,19 @@ private Q_SLOTS:
         const std::pair<const char *, int> levels[] = {{"", 0}, {"name", 0}, {"/", 0}, {"a/b", 1}, {"/a/b", 2}, {"/a/b/", 2}};
         for (const auto &[path, level] : levels)
             QCOMPARE(TAMBRO_Global::getFolderLevel(QLatin1String(path)), level);
+    }
+
+    // Last, as it takes the card out of the mount table: a card inserted but
+    // not mounted has no mount folder, and every path would begin with none.
+    void unmountedCardHoldsNoFolder()
+    {
+        TestPhone::setDevice("[card]\nstatus = 1\n");
+        TestPhone::setMountTable("/dev/mtdblock5 /kivlocal/download/tambro jffs2 rw 0 0\n");
+        TAMBRO_Global::initMemFlag = false;
+        QCOMPARE(TAMBRO_Global::getPartiShortName(2) + TAMBRO_Global::getPartiName(2), "Memory Card");
+        _TAMBRO_FOLDER_RES res;
+        TAMBRO_Global::getFolderRes(Card, res, false);
+        QCOMPARE(res.smallIcon + u' ' + res.displayName, "fm_folder_small.gif mmca1");
     }
 };
 

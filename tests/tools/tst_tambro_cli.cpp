@@ -158,6 +158,7 @@ private Q_SLOTS:
         QTest::newRow("help") << QStringList{"--help"} << 0 << "Usage: tambro";
         QTest::newRow("no command") << QStringList() << 2 << "no command given";
         QTest::newRow("unknown command") << QStringList{"du2"} << 2 << "unknown command 'du2'";
+        QTest::newRow("name: refused keystrokes counted from 1") << QStringList{"name", ".a*"} << 0 << ". at 1, * at 3";
         QTest::newRow("format: a size in any unit") << QStringList{"format", "--size", "1048535", "--decimals", "2"} << 0 << "1023.96 KB";
         QTest::newRow("format: nothing to write") << QStringList{"format"} << 2 << "needs --size, --date or --duration";
         QTest::newRow("format: a size that is no number") << QStringList{"format", "--size", "12k"} << 2 << "not '12k'";

@@ -20,6 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static const bool named = qputenv("KIVSIM_DEVICE", QFile::encodeName(asFile(nullptr, 0))) && qunsetenv("KIVSIM_JOURNAL");
     Q_UNUSED(named);
     asFile(data, size);
+    KivSim::lookAtDeviceAgain();
     const bool systemDatabase = KivSim::device()->systemMimeDatabase;
     const auto block = std::make_unique<unsigned char[]>(UTIL_MMCSD_INFO_SIZE); // the sanitizer sees any write past it
     UTIL_GetMMCSDInfo(block.get(), "/dev/mmca");
@@ -40,6 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     }
     // Back to an empty phone: a run then frees what it takes, and the leak check stays quiet.
     asFile(nullptr, 0);
+    KivSim::lookAtDeviceAgain();
     KivSim::device();
     return 0;
 }

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace KivSim {
+namespace MimeAnswers {
 
 // Extensions are short words; a name without a dot ("Photo 001") reaches the
 // registry whole and is no extension. Asking the database about such names
@@ -46,4 +46,4 @@ const SystemMimeDatabase &SystemMimeDatabase::host()
     return database;
 }
 
-} // namespace KivSim
+} // namespace MimeAnswers

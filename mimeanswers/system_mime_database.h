@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace KivSim {
+namespace MimeAnswers {
 
 // Whether the text could be an extension rather than a whole name without a dot.
 bool isPlausibleExtension(const QString &text);
@@ -25,4 +25,4 @@ public:
     static const SystemMimeDatabase &host();
 };
 
-} // namespace KivSim
+} // namespace MimeAnswers

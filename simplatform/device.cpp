@@ -1,8 +1,8 @@
 #include "device.h"
 
-#include "file_watch.h"
-#include "system_mime_database.h"
 #include "warning.h"
+
+#include "mimeanswers/system_mime_database.h"
 
 #include <QByteArrayView>
 #include <QDebug>
@@ -17,6 +17,7 @@
 #include <optional>
 
 #include <sys/stat.h>
+#include <time.h>
 
 namespace KivSim {
 
@@ -266,7 +267,7 @@ DeviceState deviceStateFrom(const KeyFile &file, const QString &path, QStringLis
         state.iconDir = QFileInfo(path).absoluteDir().absoluteFilePath(state.iconDir);
     // Built last: [registry] may come after [mime].
     state.mime = std::make_shared<const MimeLookup>(
-        mimeTypes, handlers, state.systemMimeDatabase ? &SystemMimeDatabase::host() : nullptr);
+        mimeTypes, handlers, state.systemMimeDatabase ? &MimeAnswers::SystemMimeDatabase::host() : nullptr);
     warnings += reader.warnings();
     return state;
 }
@@ -315,17 +316,29 @@ std::shared_ptr<const DeviceState> readDeviceFile(const QString &path)
     return state;
 }
 
+// The system's coarse clock, in nanoseconds: it moves on in ticks of a few
+// milliseconds, and reading it costs a few nanoseconds, where the precise
+// clock costs as much as the rest of a platform call.
+qint64 coarseClock()
+{
+    timespec now;
+    clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+    return qint64(now.tv_sec) * 1'000'000'000 + now.tv_nsec;
+}
+
 class DeviceFile
 {
 public:
     std::shared_ptr<const DeviceState> current();
+    void lookAgain()
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_lookedAt = -1;
+    }
 
 private:
-    void read();
-
     std::mutex m_mutex;
-    QByteArray m_path;
-    FileWatch m_watch;
+    qint64 m_lookedAt = -1; // the coarse clock's time at the last look; -1: look at once
     FileStamp m_stamp;
     std::shared_ptr<const DeviceState> m_state;
 };
@@ -336,30 +349,39 @@ std::shared_ptr<const DeviceState> DeviceFile::current()
     // cost more than the look-ups the platform answers.
     static const QByteArray path = qgetenv("KIVSIM_DEVICE");
     std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_state && !m_watch.mayHaveChanged())
+    // Looked at once per tick of the coarse clock at most: a stat costs more
+    // than a listed file's three or four questions together, and a person or
+    // a test that changes the phone can wait a few milliseconds.
+    const qint64 now = coarseClock();
+    if (m_state && now == m_lookedAt)
         return m_state;
-    if (m_state && stampOf(m_path) == m_stamp)
-        return m_state;
-    m_path = path;
-    read();
+    // Timed from before the stat: a change made while it runs is seen at the next look.
+    m_lookedAt = now;
+    const FileStamp stamp = stampOf(path);
+    if (!m_state || stamp != m_stamp) {
+        m_stamp = stamp;
+        m_state = stamp.exists ? readDeviceFile(QFile::decodeName(path))
+                               : std::make_shared<const DeviceState>();
+    }
     return m_state;
 }
 
-void DeviceFile::read()
+DeviceFile &deviceFile()
 {
-    // Watched and stamped before reading: a change during the read shows at the next call.
-    m_watch.watch(m_path);
-    m_stamp = stampOf(m_path);
-    m_state = m_stamp.exists ? readDeviceFile(QFile::decodeName(m_path))
-                             : std::make_shared<const DeviceState>();
+    static DeviceFile file;
+    return file;
 }
 
 } // namespace
 
 std::shared_ptr<const DeviceState> device()
 {
-    static DeviceFile deviceFile;
-    return deviceFile.current();
+    return deviceFile().current();
+}
+
+void lookAtDeviceAgain()
+{
+    deviceFile().lookAgain();
 }
 
 } // namespace KivSim

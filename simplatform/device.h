@@ -1,15 +1,14 @@
 // The state of the simulated phone, read from the device file that the
 // environment variable KIVSIM_DEVICE names when the first platform call is made.
 //
-// Every call looks whether the file changed and reads it again when it did,
-// so that a test or a person can change the phone while a program runs; a
-// change made before a call is seen by that call. Looking is cheap: the file's
-// folder is watched with inotify, and the file is stat'ed only when something
-// happened to its name, or on every call where the watch cannot tell (see
-// file_watch.h). Changed means a new stamp (inode, size or modification time),
-// so rewriting the file in place with as many bytes within one tick of the
-// file system's clock goes unseen. Without the variable or the file every
-// value has its default.
+// A platform call looks whether the file changed, and reads it again when it
+// did, so that a test or a person can change the phone while a program runs.
+// It looks once per tick of the system's coarse clock (CLOCK_MONOTONIC_COARSE,
+// a few milliseconds) at most: a change is seen by the calls made a tick
+// after it, or later. Changed means a new stamp (inode, size or
+// modification time), so rewriting the file in place with as many bytes
+// within one tick of the file system's clock goes unseen. Without the
+// variable or the file every value has its default.
 #pragma once
 
 #include "kivsim_export.h"
@@ -58,5 +57,8 @@ struct DeviceState
 // The phone as the device file describes it now. The state returned stays valid
 // and unchanged for its holder even if the file changes meanwhile.
 KIVSIM_EXPORT std::shared_ptr<const DeviceState> device();
+// Makes the next call look at the file whatever the clock says: for a program
+// that changes the file itself and cannot wait, such as a fuzz target.
+KIVSIM_EXPORT void lookAtDeviceAgain();
 
 } // namespace KivSim

@@ -1,10 +1,19 @@
 #include "mime_lookup.h"
 
-#include "system_mime_database.h"
+#include "mimeanswers/system_mime_database.h"
 
 namespace KivSim {
 
 namespace {
+
+using MimeAnswers::SystemMimeDatabase;
+
+// The value of the exact key, else of the first key equal to it ignoring case; else null.
+QString valueOf(const KeyFile::Section &section, const QString &key)
+{
+    const KeyFile::Entry *entry = section.findIgnoringCase(key);
+    return entry ? entry->value : QString();
+}
 
 QString familyOf(const QString &mimeType)
 {
@@ -19,7 +28,8 @@ MimeLookup::MimeLookup(const KeyFile::Section &types, const KeyFile::Section &ha
     // Whole names are not remembered: each is new, and would push the
     // extensions a listing repeats out of the cache.
     : m_types(types), m_handlers(handlers), m_system(system),
-      m_typeAnswers(isPlausibleExtension), m_handlerAnswers(isPlausibleExtension)
+      m_typeAnswers(MimeAnswers::isPlausibleExtension),
+      m_handlerAnswers(MimeAnswers::isPlausibleExtension)
 {
 }
 
@@ -30,7 +40,11 @@ QString MimeLookup::typeOf(const QString &extension) const
 
 QStringList MimeLookup::extensionsOf(const QString &mimeType) const
 {
-    QStringList extensions = m_types.keysWithValue(mimeType);
+    QStringList extensions;
+    for (const KeyFile::Entry &entry : m_types.entries) {
+        if (entry.value.compare(mimeType, Qt::CaseInsensitive) == 0)
+            extensions.append(entry.key);
+    }
     if (!m_system)
         return extensions;
     // Only what the look-up by extension sends back to the type, so that the
@@ -48,11 +62,11 @@ QString MimeLookup::handlerForType(const QString &mimeType) const
     // Extensions and types share [handlers]; only a key with a slash is a type.
     if (!mimeType.contains(u'/'))
         return QString();
-    const QString handler = m_handlers.value(mimeType);
+    const QString handler = valueOf(m_handlers, mimeType);
     if (!handler.isNull())
         return handler;
     const QString family = familyOf(mimeType);
-    return family.isEmpty() ? QString() : m_handlers.value(family);
+    return family.isEmpty() ? QString() : valueOf(m_handlers, family);
 }
 
 QString MimeLookup::handlerForExtension(const QString &extension) const
@@ -63,7 +77,7 @@ QString MimeLookup::handlerForExtension(const QString &extension) const
 
 QString MimeLookup::workOutTypeOf(const QString &extension) const
 {
-    const QString listed = m_types.value(extension);
+    const QString listed = valueOf(m_types, extension);
     if (!listed.isNull() || !m_system)
         return listed;
     return m_system->typeOf(extension);
@@ -71,7 +85,7 @@ QString MimeLookup::workOutTypeOf(const QString &extension) const
 
 QString MimeLookup::workOutHandlerForExtension(const QString &extension) const
 {
-    const QString handler = extension.contains(u'/') ? QString() : m_handlers.value(extension);
+    const QString handler = extension.contains(u'/') ? QString() : valueOf(m_handlers, extension);
     if (!handler.isNull())
         return handler;
     return handlerForType(typeOf(extension));

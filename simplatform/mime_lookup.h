@@ -7,15 +7,18 @@
 // so it is asked once per extension.
 #pragma once
 
-#include "answer_cache.h"
-#include "section_index.h"
+#include "keyfile.h"
+
+#include "mimeanswers/answer_table.h"
 
 #include <QString>
 #include <QStringList>
 
-namespace KivSim {
-
+namespace MimeAnswers {
 class SystemMimeDatabase;
+}
+
+namespace KivSim {
 
 class MimeLookup
 {
@@ -24,10 +27,10 @@ public:
     // -> application id; system: asked about extensions missing from types,
     // none when null.
     explicit MimeLookup(const KeyFile::Section &types = {}, const KeyFile::Section &handlers = {},
-                        const SystemMimeDatabase *system = nullptr);
+                        const MimeAnswers::SystemMimeDatabase *system = nullptr);
 
-    // The types entry for the extension (exact key, then ignoring case); else
-    // the system's answer; else null.
+    // The types entry for the extension (exact key, then the first ignoring
+    // case); else the system's answer; else null.
     QString typeOf(const QString &extension) const;
     // The types keys mapped to the type, in file order; then the system's
     // extensions for the type whose own look-up answers that type.
@@ -41,11 +44,11 @@ private:
     QString workOutTypeOf(const QString &extension) const;
     QString workOutHandlerForExtension(const QString &extension) const;
 
-    SectionIndex m_types;
-    SectionIndex m_handlers;
-    const SystemMimeDatabase *m_system;
-    mutable AnswerCache m_typeAnswers;
-    mutable AnswerCache m_handlerAnswers;
+    KeyFile::Section m_types;
+    KeyFile::Section m_handlers;
+    const MimeAnswers::SystemMimeDatabase *m_system;
+    mutable MimeAnswers::AnswerTable m_typeAnswers;
+    mutable MimeAnswers::AnswerTable m_handlerAnswers;
 };
 
 } // namespace KivSim

@@ -8,6 +8,11 @@
 #include <QSaveFile>
 #include <QTemporaryDir>
 
+#include <chrono>
+#include <thread>
+
+#include <time.h>
+
 class TestDeviceFile
 {
 public:
@@ -21,27 +26,32 @@ public:
 
     // Every write gets a later modification time, so that a rewrite of the same
     // size within the file system's clock tick is noticed as a change too.
-    bool write(const QByteArray &content) { return writeTo(m_path, content); }
-
-    // Writes another file of the folder the same way.
-    bool writeTo(const QString &path, const QByteArray &content)
+    bool write(const QByteArray &content)
     {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
-            return false;
+        QFile file(m_path);
         const QDateTime stamp = QDateTime(QDate(2020, 1, 1), QTime(0, 0)).addSecs(++m_writes);
-        return file.setFileTime(stamp, QFileDevice::FileModificationTime);
+        return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(content) == content.size()
+            && file.setFileTime(stamp, QFileDevice::FileModificationTime) && changed();
     }
 
     // A new file put in place by renaming, as editors and QSaveFile do.
     bool replace(const QByteArray &content)
     {
         QSaveFile file(m_path);
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit()
+            && changed();
     }
 
-    bool remove() { return QFile::remove(m_path); }
-    QString path() const { return m_path; }
+    // The platform looks at its device file once per tick of the system's
+    // coarse clock at most: a change is seen by the calls made a tick after it.
+    static bool changed()
+    {
+        timespec tick;
+        clock_getres(CLOCK_MONOTONIC_COARSE, &tick);
+        std::this_thread::sleep_for(std::chrono::seconds(tick.tv_sec) + std::chrono::nanoseconds(tick.tv_nsec));
+        return true;
+    }
+
     QDir dir() const { return QDir(m_dir.path()); }
 
 private:

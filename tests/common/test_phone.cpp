@@ -1,5 +1,7 @@
 #include "test_phone.h"
 
+#include "devicefile.h"
+
 #include <QDir>
 #include <QJsonObject>
 #include <QFile>
@@ -30,6 +32,7 @@ void setDevice(const QByteArray &ini)
     QSaveFile file(qEnvironmentVariable("KIVSIM_DEVICE"));
     if (!file.open(QIODevice::WriteOnly) || file.write(ini) != ini.size() || !file.commit())
         qFatal("cannot replace the device file: %s", qPrintable(file.errorString()));
+    TestDeviceFile::changed();
 }
 
 QList<QByteArray> journalLines()

@@ -1,5 +1,4 @@
-// The simulated phone's device file: what the platform's calls answer from
-// it, and that every way of changing it is seen by the next call.
+// The simulated phone's device file: what the platform's calls answer from it.
 #include "devicefile.h"
 #include "keyfile.h"
 
@@ -7,32 +6,11 @@
 #include "SETUP_Utility.h"
 #include "UTIL_MMCSD.h"
 
-#include <QFileInfo>
 #include <QImage>
 #include <QRegularExpression>
 #include <QTest>
 
-#include <functional>
-
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-// Puts a device file with the content in place of the current one.
-using Change = std::function<bool(TestDeviceFile &device, const QByteArray &content)>;
-Q_DECLARE_METATYPE(Change)
-
 namespace {
-
-// Removes the device's folder and makes it again, the old one held open or not.
-bool remakeFolder(TestDeviceFile &device, const QByteArray &content, bool hold)
-{
-    const QString folder = device.dir().path();
-    const int held = hold ? ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY) : -1;
-    const bool remade = (!hold || held >= 0) && QDir(folder).removeRecursively() && UTIL_GetMMCSDStatus() == 0
-        && QDir().mkdir(folder) && device.write(content);
-    return remade && (!hold || ::close(held) == 0);
-}
 
 QByteArray cardBlock(quint8 byte0, quint8 byte2, const QByteArray &label)
 {
@@ -49,12 +27,6 @@ class TestDevice : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup()
-    {
-        if (QFileInfo(m_device.path()).isSymLink())
-            QVERIFY(m_device.remove());
-    }
-
     void card_data()
     {
         QTest::addColumn<QByteArray>("content");
@@ -89,6 +61,7 @@ private Q_SLOTS:
         QByteArray filled(UTIL_MMCSD_INFO_SIZE, '\xAA');
         QCOMPARE(UTIL_GetMMCSDInfo(reinterpret_cast<unsigned char *>(filled.data()), "/dev/mmca"), result);
         QCOMPARE(filled, block.isEmpty() ? QByteArray(UTIL_MMCSD_INFO_SIZE, '\xAA') : block);
+        TestDeviceFile::changed();
         UTIL_GetMMCSDStatus(); // an unchanged file is not read, nor reported, again
     }
 
@@ -102,50 +75,6 @@ private Q_SLOTS:
         value = true;
         QVERIFY(!SETUP_Utility().getFlexBit(205, value) && value);
         QVERIFY(!SETUP_Utility().getFlexBit(514, value) && value);
-    }
-
-    void seesEveryWayOfChanging_data()
-    {
-        QTest::addColumn<Change>("change");
-
-        QTest::newRow("rewritten in place, same size")
-            << Change([](TestDeviceFile &device, const QByteArray &content) { return device.write(content); });
-        QTest::newRow("replaced by rename")
-            << Change([](TestDeviceFile &device, const QByteArray &content) { return device.replace(content); });
-        QTest::newRow("folder removed, then made again")
-            << Change([](TestDeviceFile &device, const QByteArray &content) { return remakeFolder(device, content, false); });
-        // The link's folder shows nothing of what happens to its target.
-        QTest::newRow("target of a symbolic link rewritten")
-            << Change([](TestDeviceFile &device, const QByteArray &content) {
-                   const QString target = device.dir().filePath(QStringLiteral("target.ini"));
-                   if (!QFileInfo(device.path()).isSymLink()
-                       && !(device.remove() && QFile::link(QStringLiteral("target.ini"), device.path())))
-                       return false;
-                   return device.writeTo(target, content);
-               });
-        // A removed folder still held open (a shell's working folder, say)
-        // tells its watch nothing until let go.
-        QTest::newRow("folder made again while the old one is held")
-            << Change([](TestDeviceFile &device, const QByteArray &content) { return remakeFolder(device, content, true); });
-        QTest::newRow("replaced by a forked child") << Change([](TestDeviceFile &device, const QByteArray &content) {
-            const pid_t child = fork();
-            if (child == 0)
-                _exit(device.replace(content) && UTIL_GetMMCSDStatus() != 1 ? 0 : 1);
-            int status = 0;
-            return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status)
-                && WEXITSTATUS(status) == 0;
-        });
-    }
-
-    void seesEveryWayOfChanging()
-    {
-        QFETCH(Change, change);
-        QVERIFY(m_device.write("[card]\nstatus=1"));
-        QCOMPARE(UTIL_GetMMCSDStatus(), 1);
-        QVERIFY(change(m_device, "[card]\nstatus=2"));
-        QCOMPARE(UTIL_GetMMCSDStatus(), 2);
-        QVERIFY(change(m_device, "[card]\nstatus=3"));
-        QCOMPARE(UTIL_GetMMCSDStatus(), 3);
     }
 
     void iconFolderOfTheDevice()

@@ -4,6 +4,7 @@
 // of the root, a folder as a list and as a grid and the details view, written
 // as PNG files into $FILEMANAGER_PICTURES and checked through their widgets.
 #include "details_dialog.h"
+#include "file_actions.h"
 #include "main_window.h"
 #include "test_phone.h"
 
@@ -85,6 +86,19 @@ class TestFileManager : public QObject
 
     QAction *action(const char *name) { return m_window.findChild<QAction *>(QLatin1String(name)); }
 
+    // Whether the action on the selection was refused with the phone's notice;
+    // whatever window it opens is closed unanswered.
+    bool refusedWithNotice(const char *name)
+    {
+        bool noticed = false;
+        answerModal(action(name), [&](QWidget *window) {
+            auto *box = qobject_cast<QMessageBox *>(window);
+            noticed = box && box->text().contains("keeps its name");
+            window->close();
+        });
+        return noticed;
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
@@ -95,6 +109,22 @@ private Q_SLOTS:
         QVERIFY(m_window.openFolder(TAMBRO_FixedFolder::m_sFMRootPath));
     }
 
+    // The phone reads its e-mail bit once a process: this comes first, and a
+    // second run ($FILEMANAGER_EMAIL_BIT=0) tries the bit unset.
+    void sharingFollowsTheEmailBit()
+    {
+        const QByteArray bit = qgetenv("FILEMANAGER_EMAIL_BIT").isEmpty() ? "1" : qgetenv("FILEMANAGER_EMAIL_BIT");
+        QFile device(qEnvironmentVariable("KIVSIM_DEVICE"));
+        QVERIFY(device.open(QIODevice::ReadOnly));
+        TestPhone::setDevice(device.readAll().replace("205 = 1", "205 = " + bit));
+        TestPhone::clearJournal();
+        sendFiles({Root + "/audio/LOUD.MP3"}, "me@example.com");
+        sendFiles({Root + "/audio/LOUD.MP3"}, "0612345678");
+        const QString byMail = bit == "1" ? "Email_ShareFiles" : "BlueTooth_ShareFiles";
+        QCOMPARE(TestPhone::journalCalls().filter("_ShareFiles"),
+                 QStringList({"TAMBRO_UTIL_Interface::" + byMail, "TAMBRO_UTIL_Interface::BlueTooth_ShareFiles"}));
+    }
+
     void aWholeSession()
     {
         if (QGuiApplication::platformName() != QLatin1String("offscreen"))
@@ -103,6 +133,14 @@ private Q_SLOTS:
         QStringList root = shownNames(*m_window.model());
         QCOMPARE(root.first(), "Pictures");
         QVERIFY(root.contains("Memory Card") && root.contains("Work SIM"));
+        // The storages keep their names and stay.
+        for (const char *storage : {"Memory Card", "Work SIM"}) {
+            for (const char *change : {"rename", "delete"}) {
+                select({storage});
+                QVERIFY2(refusedWithNotice(change), change);
+            }
+        }
+        QCOMPARE(shownNames(*m_window.model()), root);
         QCOMPARE(m_window.location()->text(), "My Files");
 
         // Into a folder with Enter, then two files selected.
@@ -110,8 +148,14 @@ private Q_SLOTS:
         QTest::keyClick(m_window.listView(), Qt::Key_Return);
         QCOMPARE(m_window.location()->text(), "My Files/Audio");
         QCOMPARE(shownNames(*m_window.model()).first(), "Live"); // folders first
-        select({"Live", "LOUD.MP3", "Morning Song.mp3"}); // a folder is no file
+        select({"Live", "LOUD.MP3"}); // a folder is no file: one file has no title of its own
+        QCOMPARE(m_window.windowTitle(), "Audio");
+        select({"Live", "LOUD.MP3", "Morning Song.mp3"});
         QCOMPARE(m_window.windowTitle(), "2 files selected - Total 148 B");
+        // A filter narrows the files only.
+        action("pictures")->trigger();
+        QCOMPARE(shownNames(*m_window.model()), QStringList{"Live"});
+        action("allFiles")->trigger();
 
         // Opening a song reaches the media player.
         select({"Morning Song.mp3"});
@@ -136,9 +180,7 @@ private Q_SLOTS:
         for (const auto &[folder, name] : {std::pair{Root, "Audio"}, {Root + "/picture", "Preloaded Pictures"}}) {
             m_window.openFolder(folder);
             select({name});
-            bool noticed = false;
-            answerModal(action("rename"), [&](QWidget *box) { noticed = qobject_cast<QMessageBox *>(box) && box->close(); });
-            QVERIFY2(noticed, name);
+            QVERIFY2(refusedWithNotice("rename"), name);
         }
         QVERIFY(QFileInfo(Root + "/audio").isDir() && QFileInfo(Root + "/picture/pic").isDir());
 

@@ -22,9 +22,9 @@ libdir=$(ls -d "$prefix"/lib*/ | head -n 1)
 cmake -S "$source_dir/tests/install/consumer" -B "$work/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >/dev/null &&
     cmake --build "$work/cmake" >/dev/null
 c++ -std=c++17 -fPIC "$source_dir/tests/install/consumer/main.cpp" -o "$work/pkgconfig-consumer" \
-    $(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --cflags --libs kivtambro-base Qt6Gui) -Wl,-rpath,"$libdir"
+    $(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --cflags --libs kivtambro-listview Qt6Gui) -Wl,-rpath,"$libdir"
 
-expected="My Files|1|/mmc/mmca1"
+expected="My Files|1|/mmc/mmca1|Pictures"
 for program in "$work/cmake/consumer" "$work/pkgconfig-consumer"; do
     got=$(QT_QPA_PLATFORM=offscreen "$prefix/bin/kivsim" --device "$source_dir/devices/sample" -- "$program")
     [ "$got" = "$expected" ] || { echo "$program printed '$got', expected '$expected'" >&2; exit 1; }

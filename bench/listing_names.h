@@ -18,6 +18,26 @@ inline const QByteArray BenchmarkDevice = "[registry]\nsystem = 1\n"
                                           "image/* = com.kiv.viewer\ntxt = com.kiv.notepad\nvcf = com.kiv.contacts\n"
                                           "url = com.kiv.browser\n";
 
+// What that registry answers about the extensions of listingNames(), type and
+// handler by extension; null for whatever it does not know, as for the names
+// without extension. A registry that answers from this table does the least
+// any registry can, so the icon choice on it is the library's own share.
+struct RegistryAnswer
+{
+    const char *extension;
+    const char *type;
+    const char *handler;
+};
+inline const RegistryAnswer BenchmarkAnswers[] = {
+    {"mp3", "audio/mpeg", "com.kiv.player"},      {"jpg", "image/jpeg", "com.kiv.viewer"},
+    {"JPG", "image/jpeg", "com.kiv.viewer"},      {"png", "image/png", "com.kiv.viewer"},
+    {"3gp", "video/3gpp", "com.kiv.player"},      {"mp4", "video/mp4", "com.kiv.player"},
+    {"amr", "audio/amr", "com.kiv.player"},       {"txt", "text/plain", "com.kiv.notepad"},
+    {"vcf", "text/x-vcard", "com.kiv.contacts"},  {"jar", "application/java-archive", nullptr},
+    {"url", "application/x-mswinurl", "com.kiv.browser"}, {"xq7", nullptr, nullptr},
+    {"dat", nullptr, nullptr},
+};
+
 // Points the simulated platform at that device file, kept in the folder.
 inline void useBenchmarkDevice(const QTemporaryDir &folder)
 {

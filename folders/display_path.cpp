@@ -1,5 +1,5 @@
 // The location line a listing shows above a folder, and a folder's depth.
-#include "preload_folders.h"
+#include "structurefile/folder_structure_file.h"
 
 #include "TAMBRO_FixedFolder.h"
 #include "TAMBRO_Global.h"

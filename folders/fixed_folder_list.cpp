@@ -1,6 +1,5 @@
 // A fixed folder's fixed subfolders, in the order the structure file gives.
 #include "folder_structure.h"
-#include "preload_folders.h"
 #include "rename_aside.h"
 
 #include "TAMBRO_FixedFolder.h"

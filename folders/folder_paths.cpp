@@ -1,6 +1,5 @@
 // The root of the fixed folder tree, and paths relative to it.
 #include "folder_structure.h"
-#include "preload_folders.h"
 
 #include "TAMBRO_FixedFolder.h"
 

@@ -1,7 +1,6 @@
 // Opening the folder structure file once, and creating the key words' folders.
 #include "folder_structure.h"
 
-#include "folder_structure_file.h"
 
 #include "TAMBRO_FixedFolder.h"
 

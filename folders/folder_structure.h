@@ -4,6 +4,8 @@
 
 #include "TAMBRO_FixedFolder.h"
 
+#include "structurefile/folder_structure_file.h"
+
 #include <QString>
 
 #include <optional>
@@ -11,11 +13,6 @@
 class ZConfig;
 
 namespace Tambro {
-
-// Group names of the folder structure file.
-inline constexpr char KeyWordGroup[] = "TAMBRO_KEYWORD";
-inline constexpr char PseudoKeyWordGroup[] = "TAMBRO_PSEUDO_KEYWORD";
-inline constexpr char RootGroup[] = "TOPLEVEL";
 
 // TAMBRO_DATA_PATH without surrounding white space and trailing slashes;
 // null when unset.

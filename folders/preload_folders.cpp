@@ -1,5 +1,4 @@
 // Telling preloaded paths, their two forms, their parents and file names.
-#include "preload_folders.h"
 
 #include "folder_structure.h"
 

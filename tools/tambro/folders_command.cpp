@@ -4,8 +4,8 @@
 #include "text_table.h"
 
 #include "printable/printable_text.h"
+#include "structurefile/folder_structure_file.h"
 
-#include <KIV_Paths.h>
 #include <TAMBRO_FixedFolder.h>
 #include <ZConfig.h>
 
@@ -18,36 +18,19 @@
 #include <QSet>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
 // Only what the library does not tell, which key words there are, is read
-// from the folder structure file here, as its format is documented
-// (docs/devices.md); every answer about them comes from the library.
-constexpr char KeyWordGroup[] = "TAMBRO_KEYWORD";
-constexpr char PseudoKeyWordGroup[] = "TAMBRO_PSEUDO_KEYWORD";
-// The tag that stands for the preload root in preloaded folders' names.
-constexpr char PreloadTag[] = "//ZELK_PRELOAD:";
-
-// The device's file when there is one, else the system's.
-QString structureFilePath()
-{
-    const QString name = u'/' + QLatin1String(KivPaths::FolderStructureFileName);
-    const QString deviceFile = QLatin1String(KivPaths::FileManagerDeviceFolder) + name;
-    return QFileInfo::exists(deviceFile) ? deviceFile : QLatin1String(KivPaths::FileManagerSystemFolder) + name;
-}
+// from the folder structure file here, by the format the library reads it
+// by; every answer about them comes from the library.
+using Tambro::KeyWordGroup;
+using Tambro::PseudoKeyWordGroup;
 
 // A folder of the file, as written (blanks kept), under the root.
 QString absoluteFolderPath(const QString &relativePath)
 {
     return TAMBRO_FixedFolder::m_sFMRootPath + relativePath;
-}
-
-// A preloaded folder's name in the file: the tag in place of the preload root.
-QString toTagForm(const QString &path)
-{
-    return QLatin1String(PreloadTag) + path.mid(qsizetype(strlen(KivPaths::PreloadRoot)));
 }
 
 bool isFolder(const QString &path)
@@ -197,7 +180,7 @@ QJsonObject preloadedFolderObject(const QString &path)
     FixedFolder folder;
     TAMBRO_FixedFolder::getFolder(path, folder, true);
     return QJsonObject{
-        {QStringLiteral("group"), toTagForm(path)},
+        {QStringLiteral("group"), Tambro::toPreloadTagForm(path)},
         {QStringLiteral("path"), path},
         {QStringLiteral("name"), folder.displayName},
         {QStringLiteral("parentPath"), parentPath},
@@ -208,7 +191,7 @@ QJsonObject preloadedFolderObject(const QString &path)
 
 QJsonObject describeStructure()
 {
-    const QString file = structureFilePath();
+    const QString file = Tambro::folderStructureFilePath();
     // Read before the library's first query creates the key words' folders.
     QList<KeyWord> keyWords = readKeyWords(ZConfig(file, false));
     findKeyWordFolders(keyWords);

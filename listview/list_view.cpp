@@ -190,6 +190,13 @@ struct TAMBRO_ListView::Private
         return row.extra && !row.extra->path.isNull() ? row.extra->path : prefix + row.name;
     }
     const Details *details(int row);
+    // One of the row's details; absent outside the rows.
+    template<typename Value>
+    Value detail(int row, Value Details::*field, Value absent = Value())
+    {
+        const Details *worked = details(row);
+        return worked ? worked->*field : absent;
+    }
 };
 
 bool TAMBRO_ListView::Private::read(const QString &absolute, const TAMBRO_File_Filter *filter)
@@ -320,38 +327,32 @@ QByteArray TAMBRO_ListView::nameBytes(int row) const
 
 QString TAMBRO_ListView::shownName(int row) const
 {
-    const Details *details = d->details(row);
-    return details ? details->shownName : QString();
+    return d->detail(row, &Details::shownName);
 }
 
 QString TAMBRO_ListView::bigIcon(int row) const
 {
-    const Details *details = d->details(row);
-    return details ? details->bigIcon : QString();
+    return d->detail(row, &Details::bigIcon);
 }
 
 QString TAMBRO_ListView::smallIcon(int row) const
 {
-    const Details *details = d->details(row);
-    return details ? details->smallIcon : QString();
+    return d->detail(row, &Details::smallIcon);
 }
 
 qint64 TAMBRO_ListView::size(int row) const
 {
-    const Details *details = d->details(row);
-    return details ? details->size : -1;
+    return d->detail(row, &Details::size, qint64(-1));
 }
 
 QString TAMBRO_ListView::sizeText(int row) const
 {
-    const Details *details = d->details(row);
-    return details ? details->sizeText : QString();
+    return d->detail(row, &Details::sizeText);
 }
 
 QDateTime TAMBRO_ListView::modified(int row) const
 {
-    const Details *details = d->details(row);
-    return details ? details->modified : QDateTime();
+    return d->detail(row, &Details::modified);
 }
 
 TAMBRO_ListView::StorageState TAMBRO_ListView::storageState(int parti)

@@ -198,11 +198,20 @@ private Q_SLOTS:
             QCOMPARE(shownNames(*m_window.model()), names);
         }
 
-        // The card taken out: gone from the root after Refresh.
+        // A card that cannot be used as usual says the first reason of:
+        // locked, unformatted or invalid, write-protected.
         m_window.openFolder(Root);
         QFile device(qEnvironmentVariable("KIVSIM_DEVICE"));
         QVERIFY(device.open(QIODevice::ReadOnly));
-        TestPhone::setDevice(device.readAll().replace("status = 1\ninfo = 1", "status = 0\ninfo = 0"));
+        const QByteArray sample = device.readAll();
+        for (const auto &[flags, shown] : {std::pair{"0x03\nbyte2 = 0x02", "(locked)"}, {"0x01\nbyte2 = 0x02", "(unformatted)"},
+                                           {"0x01\nbyte2 = 0x00", "(invalid)"}, {"0x01\nbyte2 = 0x04", "(write-protected)"}}) {
+            TestPhone::setDevice(QByteArray(sample).replace("0x00\n# Formatted.\nbyte2 = 0x04", flags));
+            action("refresh")->trigger();
+            QVERIFY2(shownNames(*m_window.model()).contains("Memory Card " + QString(shown)), shown);
+        }
+        // The card taken out: gone from the root after Refresh.
+        TestPhone::setDevice(QByteArray(sample).replace("status = 1\ninfo = 1", "status = 0\ninfo = 0"));
         action("refresh")->trigger();
         root = shownNames(*m_window.model());
         QVERIFY(!root.contains("Memory Card") && root.contains("Work SIM"));

@@ -28,25 +28,25 @@ install_missing_packages() {
     $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing
 }
 
-# build DIR [CMAKE OPTIONS...]
+# build PRESET: configures and builds one of the builds CMakePresets.json
+# names: plain (in build), sanitize, fuzz or coverage (in build-PRESET).
 build() {
-    dir=$1
-    shift
-    cmake -S . -B "$dir" -G Ninja "$@" >/dev/null
-    cmake --build "$dir"
+    cmake --preset "$1" >/dev/null
+    cmake --build --preset "$1"
 }
 
 run_tests() {
-    dir=$1
-    ctest --test-dir "$dir" --output-on-failure --parallel "$(nproc)"
+    ctest --preset "$1" --parallel "$(nproc)"
 }
 
+# Each fuzz target fuzz/CMakeLists.txt lists, for the seconds it gives it.
 # Only the fuzz targets are built with clang, with the code they reach
 # instrumented: the rest is covered above.
-build_fuzz_targets() {
-    CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DKIVTAMBRO_FUZZ=ON >/dev/null
-    cmake --build build-fuzz --target config_fuzz mount_table_fuzz validator_fuzz recipient_fuzz filter_fuzz \
-        device_file_fuzz sandbox_fuzz java_descriptor_fuzz bookmark_fuzz journal_fuzz
+fuzz_all() {
+    build fuzz
+    while read -r target seconds; do
+        fuzz "$target" -max_total_time="$seconds"
+    done <build-fuzz/fuzz/targets.txt
 }
 
 # fuzz TARGET LIBFUZZER-OPTION...: fuzzes on a scratch copy of the target's
@@ -61,7 +61,7 @@ fuzz() {
     mkdir -p "$corpus" build-fuzz/findings
     cp -R "fuzz/corpus/${target%_fuzz}/." "$corpus"
     if ! UBSAN_OPTIONS=print_stacktrace=1 build-fuzz/fuzz/"$target" "$@" -timeout=10 \
-            -artifact_prefix=build-fuzz/findings/ "$corpus" >"$log" 2>&1; then
+            -artifact_prefix=build-fuzz/findings/ "$corpus" </dev/null >"$log" 2>&1; then
         tail -n 60 "$log"
         echo "$target found a problem: the input is in build-fuzz/findings/, the log in $log" >&2
         return 1
@@ -112,7 +112,7 @@ show_file_manager() {
 case "${1:-}" in
 demo)
     install_missing_packages
-    build build
+    build plain
     build/bin/kivsim -- build/bin/tambro storage
     echo
     build/bin/kivsim -- build/bin/tambro folders
@@ -122,32 +122,19 @@ demo)
     ;;
 test)
     install_missing_packages
-    build build
-    run_tests build
-    build build-sanitize -DKIVTAMBRO_SANITIZE=ON
-    ASAN_OPTIONS=detect_leaks=1:abort_on_error=0 \
-    UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
-        run_tests build-sanitize
-    build_fuzz_targets
-    # About 3.5 minutes in all, so that the whole run stays well under 20.
-    fuzz config_fuzz -max_total_time=35
-    fuzz mount_table_fuzz -max_total_time=25
-    fuzz validator_fuzz -max_total_time=25
-    fuzz recipient_fuzz -max_total_time=15
-    fuzz filter_fuzz -max_total_time=25
-    fuzz device_file_fuzz -max_total_time=15
-    fuzz sandbox_fuzz -max_total_time=15
-    fuzz java_descriptor_fuzz -max_total_time=15
-    fuzz bookmark_fuzz -max_total_time=15
-    fuzz journal_fuzz -max_total_time=15
+    build plain
+    run_tests plain
+    build sanitize
+    run_tests sanitize
+    fuzz_all
     ;;
 coverage)
     packages="$packages gcovr"
     install_missing_packages
     # From nothing: counters of objects that are no longer built would be merged in.
     rm -rf build-coverage
-    build build-coverage -DCMAKE_BUILD_TYPE=Debug -DKIVTAMBRO_COVERAGE=ON
-    run_tests build-coverage
+    build coverage
+    run_tests coverage
     coverage_report
     ;;
 *)

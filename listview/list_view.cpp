@@ -26,7 +26,7 @@ struct Details
     QString smallIcon;
     qint64 size = -1;
     QString sizeText;
-    QDateTime modified;
+    qint64 modified = 0; // seconds since the epoch
 };
 
 // What few rows have, and what is worked out later: apart, so that the rows
@@ -144,7 +144,7 @@ Details folderDetails(const QString &path, TAMBRO_ListView::Kind kind)
 {
     _TAMBRO_FOLDER_RES res = plainFolder();
     TAMBRO_Global::getFolderRes(path, res, false);
-    Details details{res.displayName, res.bigIcon, res.smallIcon, -1, QString(), QDateTime()};
+    Details details{res.displayName, res.bigIcon, res.smallIcon, -1, QString(), 0};
     if (kind == TAMBRO_ListView::Storage) {
         const QString state = TAMBRO_ListView::storageStateText(TAMBRO_ListView::storageState(partitionMountedAt(path)));
         if (!state.isEmpty())
@@ -158,16 +158,14 @@ Details folderDetails(const QString &path, TAMBRO_ListView::Kind kind)
 Details fileDetails(const QString &path, const QByteArray &onDisk)
 {
     Details details{TAMBRO_Global::getShortName(path), TAMBRO_Global::getFileIconByType(path, true),
-                    TAMBRO_Global::getFileIconByType(path, false), 0, QString(), QDateTime()};
+                    TAMBRO_Global::getFileIconByType(path, false), 0, QString(), 0};
     TAMBRO_FixedFolder::trPreloadFile(path, details.shownName, true);
     struct stat status;
-    qint64 modified = 0;
     if (::stat(onDisk.constData(), &status) == 0) {
         details.size = status.st_size;
-        modified = status.st_mtim.tv_sec;
+        details.modified = status.st_mtim.tv_sec;
     }
     details.sizeText = TAMBRO_Global::getDetailViewSizeStr(double(details.size));
-    details.modified = QDateTime::fromSecsSinceEpoch(modified);
     return details;
 }
 
@@ -220,8 +218,9 @@ bool TAMBRO_ListView::Private::read(const QString &absolute, const TAMBRO_File_F
         listed.push_back(std::move(row));
     }
     closedir(dir);
-    // The folders before the files; each group is put in order when read.
-    const auto files = std::partition(listed.begin() + qsizetype(firstEntry), listed.end(),
+    // The folders before the files, each group in the listing's order, which
+    // some file systems give nearly sorted: sorting it then costs less.
+    const auto files = std::stable_partition(listed.begin() + qsizetype(firstEntry), listed.end(),
                                       [](const Row &row) { return row.kind != File; });
     groups[0] = {firstEntry, size_t(files - listed.begin()), firstEntry};
     groups[1] = {groups[0].end, listed.size(), groups[0].end};
@@ -352,7 +351,8 @@ QString TAMBRO_ListView::sizeText(int row) const
 
 QDateTime TAMBRO_ListView::modified(int row) const
 {
-    return d->detail(row, &Details::modified);
+    // Made only when asked: a date in local time costs more than the row.
+    return row >= 0 && row < count() ? QDateTime::fromSecsSinceEpoch(d->detail(row, &Details::modified)) : QDateTime();
 }
 
 TAMBRO_ListView::StorageState TAMBRO_ListView::storageState(int parti)

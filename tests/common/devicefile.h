@@ -43,12 +43,16 @@ public:
     }
 
     // The platform looks at its device file once per tick of the system's
-    // coarse clock at most: a change is seen by the calls made a tick after it.
+    // coarse clock at most: a change is seen by the calls made once the clock
+    // has moved on, which sleeping for its resolution does not always bring.
     static bool changed()
     {
-        timespec tick;
-        clock_getres(CLOCK_MONOTONIC_COARSE, &tick);
-        std::this_thread::sleep_for(std::chrono::seconds(tick.tv_sec) + std::chrono::nanoseconds(tick.tv_nsec));
+        timespec start, now;
+        clock_gettime(CLOCK_MONOTONIC_COARSE, &start);
+        do {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+        } while (now.tv_sec == start.tv_sec && now.tv_nsec == start.tv_nsec);
         return true;
     }
 

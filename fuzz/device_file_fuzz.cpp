@@ -17,8 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     quietMessages();
     // Before the platform's first call, which reads the variables once.
-    static const bool named = qputenv("KIVSIM_DEVICE", QFile::encodeName(asFile(nullptr, 0))) && qunsetenv("KIVSIM_JOURNAL");
-    Q_UNUSED(named);
+    [[maybe_unused]] static const bool named =
+        qputenv("KIVSIM_DEVICE", QFile::encodeName(asFile(nullptr, 0))) && qunsetenv("KIVSIM_JOURNAL");
     asFile(data, size);
     KivSim::lookAtDeviceAgain();
     const bool systemDatabase = KivSim::device()->systemMimeDatabase;

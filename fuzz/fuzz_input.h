@@ -38,9 +38,8 @@ inline QString utf16Text(const uint8_t *data, size_t size)
 // Warnings about bad lines would bury the fuzzer's own output.
 inline void quietMessages()
 {
-    static const QtMessageHandler previous =
+    [[maybe_unused]] static const QtMessageHandler previous =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    Q_UNUSED(previous);
 }
 
 // The input as a file that lives in memory, so that millions of runs do not

@@ -1,8 +1,6 @@
 // The file manager as a person uses it, on the sample phone: one session
-// (offscreen) from the root through a folder, a selection, a rename, a file
-// opened and a card taken out; and, on a real window system (Xvfb), pictures
-// of the root, a folder as a list and as a grid and the details view, written
-// as PNG files into $FILEMANAGER_PICTURES and checked through their widgets.
+// offscreen; and under Xvfb, pictures of the root, a folder as a list and as a
+// grid and the details view, saved into $FILEMANAGER_PICTURES.
 #include "details_dialog.h"
 #include "file_actions.h"
 #include "main_window.h"

@@ -1,9 +1,7 @@
-// A services library for the tests, compiled without the library's header as
-// a phone's would be: its own declaration of the interface, by the same name,
-// lays the operations out in the order of the calling contract. Each notes
-// which slot it is and what it was given, and answers 100 + its slot. Built
-// in variants without a delete function, with a null factory, without a
-// factory.
+// A services library for the tests, built as a phone's would be, on its own
+// declaration of the interface: each operation notes its slot and arguments and
+// answers 100 + its slot. Variants lack the delete function or the factory, or
+// have a null factory.
 #include <QStringList>
 
 #include <cstdlib>

@@ -104,15 +104,13 @@ test_odd_devices() {
 
     # A missing mount table gives a warning and an empty /etc/mtab.
     local bare
-    bare=$(make_device bare '[sandbox]
-mtab = tables/none')
+    bare=$(make_device bare $'[sandbox]\nmtab = tables/none')
     [ "$(on "$bare" 'wc -c </etc/mtab')" = 0 ] || fail "missing mount table: /etc/mtab not empty"
     grep -q "tables/none" "$work/stderr" || fail "missing mount table: no warning"
 
     # Content that does not fit its storage is a setup failure, not the command's.
     local small
-    small=$(make_device small '[sandbox]
-phone_size = 8K')
+    small=$(make_device small $'[sandbox]\nphone_size = 8K')
     mkdir -p "$small/phone"
     for name in a b c d; do head -c 4096 /dev/zero >"$small/phone/$name"; done
     expect_status 125 "overfull storage" on "$small" 'exit 0'
@@ -163,8 +161,7 @@ EOF
     [ -z "$(ls "$work/host-folder")" ] || fail "something was made in a host folder"
 
     # Links that stay inside the device folder are followed.
-    device=$(make_device inside '[sandbox]
-mtab = current.mtab')
+    device=$(make_device inside $'[sandbox]\nmtab = current.mtab')
     mkdir "$device/tables" && echo "/dev/x /mmc/mmca1 vfat rw 0 0" >"$device/tables/a.mtab"
     ln -s tables/../tables/a.mtab "$device/current.mtab"
     [ "$(on "$device" 'cat /etc/mtab')" = "/dev/x /mmc/mmca1 vfat rw 0 0" ] ||
@@ -175,8 +172,7 @@ mtab = current.mtab')
 test_host_untouched() {
     local value device
     for value in / /usr /etc /tmp /mmc /mmc/mmca1 /kivlocal/download/tambro/apps /run/kivsim; do
-        device=$(make_device write "[sandbox]
-write_path = $value")
+        device=$(make_device write $'[sandbox]\nwrite_path = '"$value")
         expect_status 125 "write_path $value" on "$device" true
         grep -qF "write_path \"$value\"" "$work/stderr" || fail "write_path $value: not named"
     done
@@ -194,8 +190,7 @@ write_path = $value")
     fi
 
     # A copy holding names that are not UTF-8 and read-only folders goes too.
-    device=$(make_device names '[sandbox]
-phone_size = 1M')
+    device=$(make_device names $'[sandbox]\nphone_size = 1M')
     mkdir -p "$device/phone/locked" && touch "$device/phone/locked/"$'caf\xe9.mp3'
     chmod 555 "$device/phone/locked"
     TMPDIR=$work/tmp "$kivsim" --device "$device" -- sh -c 'mkdir -m 500 /run/kivsim/device/x' 2>/dev/null

@@ -28,8 +28,7 @@ on() {
 
 test_special_files() {
     local device
-    device=$(make_device '[icons]
-dir = icons')
+    device=$(make_device $'[icons]\ndir = icons')
     rm "$device/mtab" && mkfifo "$device/mtab"
     mkdir -p "$device/tambro" "$device/icons"
     ln -s /dev/zero "$device/tambro/kiv_tambrostruct.cfg"

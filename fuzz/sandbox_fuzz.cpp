@@ -5,7 +5,7 @@
 
 #include "confinedpath.h"
 #include "phonelayout.h"
-#include "simplatform/keyfile.h"
+#include "platformcommon/keyfile.h"
 
 #include <QDir>
 #include <QFile>

@@ -4,7 +4,7 @@
 #include "exitcodes.h"
 #include "sandboxrunner.h"
 
-#include "simplatform/keyfile.h"
+#include "platformcommon/keyfile.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -12,7 +12,7 @@
 #include "shellquote.h"
 
 #include "printable/printable_text.h"
-#include "simplatform/keyfile.h"
+#include "platformcommon/keyfile.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "sandboxsettings.h"
 
-#include "simplatform/keyfile.h"
+#include "platformcommon/keyfile.h"
 
 #include <QDir>
 

@@ -12,10 +12,13 @@ Q_DECLARE_METATYPE(Change)
 
 static QByteArray words(const CardState &c)
 {
-    const QByteArray label = c.label.isEmpty() ? "" : " label=" + c.label;
-    return !c.inserted ? "absent"
-                       : QByteArray("inserted") + (c.writeProtected ? " write-protected" : "") + (c.locked ? " locked" : "")
-            + (c.unformatted ? " unformatted" : "") + (c.invalid ? " invalid" : "") + label;
+    return !c.inserted ? "absent" : QByteArray("inserted") + (c.writeProtected ? " write-protected" : "") + (c.locked ? " locked" : "")
+            + (c.unformatted ? " unformatted" : "") + (c.invalid ? " invalid" : "") + (c.label.isEmpty() ? "" : " label=" + c.label);
+}
+
+static void row(const char *name, Change change, const char *state, const QByteArray &record)
+{
+    QTest::newRow(name) << change << QByteArray(state) << record;
 }
 
 class CardStateTest : public QObject
@@ -23,50 +26,34 @@ class CardStateTest : public QObject
     Q_OBJECT
 
 private slots:
+    // Each from a usable file system labelled A, with the driver's record: bytes 0 and 2, then the label field.
     void noMediaThenLockedThenUsage_data()
     {
-        QTest::addColumn<Change>("change"); // of a labelled, usable file system
+        QTest::addColumn<Change>("change");
         QTest::addColumn<QByteArray>("state");
-        QTest::newRow("usable") << Change([](BlockReport &) {}) << QByteArray("inserted label=A");
-        QTest::newRow("ro device") << Change([](BlockReport &b) { b.readOnly = true; }) << QByteArray("inserted write-protected label=A");
-        QTest::newRow("ro mount") << Change([](BlockReport &b) { b.readOnlyMount = true; }) << QByteArray("inserted write-protected label=A");
-        QTest::newRow("locked") << Change([](BlockReport &b) { b.encrypted = true; }) << QByteArray("inserted locked label=A");
-        QTest::newRow("locked, not invalid") << Change([](BlockReport &b) { b.encrypted = true, b.idUsage = "other"; }) << QByteArray("inserted locked label=A");
-        QTest::newRow("unlocked") << Change([](BlockReport &b) { b.encrypted = b.hasCleartext = true, b.hasFilesystem = false; }) << QByteArray("inserted label=A");
-        QTest::newRow("unformatted") << Change([](BlockReport &b) { b.idUsage = {}, b.hasFilesystem = false; }) << QByteArray("inserted unformatted label=A");
-        QTest::newRow("no Filesystem") << Change([](BlockReport &b) { b.hasFilesystem = false; }) << QByteArray("inserted invalid label=A");
-        QTest::newRow("crypto, no Encrypted") << Change([](BlockReport &b) { b.idUsage = "crypto"; }) << QByteArray("inserted invalid label=A");
-        QTest::newRow("no media") << Change([](BlockReport &b) { b.mediaAvailable = false, b.readOnly = true; }) << QByteArray("absent");
-        QTest::newRow("size 0") << Change([](BlockReport &b) { b.size = 0, b.idUsage = {}; }) << QByteArray("absent");
+        QTest::addColumn<QByteArray>("record");
+        row("locked, not invalid", [](BlockReport &b) { b.encrypted = true, b.idUsage = "other"; }, "inserted locked label=A", {"\2\0A", 3});
+        row("unlocked", [](BlockReport &b) { b.encrypted = b.hasCleartext = true, b.hasFilesystem = false; }, "inserted label=A", {"\0\4A", 3});
+        row("unformatted", [](BlockReport &b) { b.idUsage = {}, b.hasFilesystem = false; }, "inserted unformatted label=A", {"\0\2A", 3});
+        row("crypto, no Encrypted", [](BlockReport &b) { b.idUsage = "crypto"; }, "inserted invalid label=A", {"\0\0A", 3});
+        row("no media", [](BlockReport &b) { b.mediaAvailable = false, b.readOnly = true; }, "absent", {"\0\0", 2});
+        row("size 0", [](BlockReport &b) { b.size = 0, b.idUsage = {}; }, "absent", {"\0\0", 2});
+        row("ro, label fills the field", [](BlockReport &b) { b.readOnly = true, b.idLabel = "ABCDEFGHIJKL"; },
+            "inserted write-protected label=ABCDEFGHIJKL", {"\1\4ABCDEFGHIJK", 13});
+        row("label cut before a character", [](BlockReport &b) { b.idLabel = "ABCDEFGHIJ\u00e9"; }, "inserted label=ABCDEFGHIJ\xc3\xa9", {"\0\4ABCDEFGHIJ", 12});
     }
     void noMediaThenLockedThenUsage()
     {
         QFETCH(Change, change);
         QFETCH(QByteArray, state);
+        QFETCH(QByteArray, record);
         BlockReport block{false, QStringLiteral("A"), QStringLiteral("filesystem"), 1 << 20, true, {}};
         change(block);
-        QCOMPARE(words(cardStateOf(block)), state);
-    }
-
-    void recordHasFlagsAndACutLabel_data()
-    {
-        QTest::addColumn<CardState>("state");
-        QTest::addColumn<QByteArray>("record"); // bytes 0 and 2, then the label field
-        QTest::newRow("ready, label fills the field") << CardState{true, "ABCDEFGHIJKL", true} << QByteArray("\1\4ABCDEFGHIJK", 13);
-        QTest::newRow("locked first, whole characters") << CardState{true, "ABCDEFGHIJ\xc3\xa9", false, true, true, true}
-                                                        << QByteArray("\2\0ABCDEFGHIJ", 12);
-        QTest::newRow("unformatted") << CardState{true, "", false, false, true} << QByteArray("\0\2", 2);
-        QTest::newRow("invalid") << CardState{true, "", false, false, false, true} << QByteArray("\0\0", 2);
-        QTest::newRow("absent") << CardState{false, "A", true, true} << QByteArray("\0\0", 2);
-    }
-    void recordHasFlagsAndACutLabel()
-    {
-        QFETCH(CardState, state);
-        QFETCH(QByteArray, record);
+        const CardState card = cardStateOf(block);
+        QCOMPARE(words(card), state);
         QByteArray expected(UTIL_MMCSD_INFO_SIZE, '\0'), info(UTIL_MMCSD_INFO_SIZE, '\xff');
-        expected[0] = record[0], expected[2] = record[1];
-        expected.replace(UTIL_MMCSD_LABEL_OFFSET, record.size() - 2, record.mid(2));
-        QCOMPARE(fillCardInfo(state, reinterpret_cast<uchar *>(info.data())), state.inserted);
+        expected[0] = record[0], expected[2] = record[1], expected.replace(UTIL_MMCSD_LABEL_OFFSET, record.size() - 2, record.mid(2));
+        QCOMPARE(fillCardInfo(card, reinterpret_cast<uchar *>(info.data())), card.inserted);
         QCOMPARE(info, expected);
     }
 };

@@ -29,6 +29,7 @@ for program in "$work/cmake/consumer" "$work/pkgconfig-consumer"; do
     got=$(QT_QPA_PLATFORM=offscreen "$prefix/bin/kivsim" --device "$source_dir/devices/sample" -- "$program")
     [ "$got" = "$expected" ] || { echo "$program printed '$got', expected '$expected'" >&2; exit 1; }
     # It must run on the installed library and platform, not on the build tree's.
-    [ "$(ldd "$program" | grep -c "$prefix")" -eq 2 ] || { echo "$program does not use the installed copy" >&2; exit 1; }
+    [ "$("$prefix/bin/kivsim" -- ldd "$program" | grep -c "$prefix")" -eq 2 ] ||
+        { echo "$program does not use the installed copy" >&2; exit 1; }
 done
 echo "install ok"

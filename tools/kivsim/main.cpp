@@ -277,28 +277,31 @@ void shareWindowSystem(BwrapCommand &command)
     command.useOwnRuntimeFolder();
 }
 
-// The folder of the phone's services library: beside an installed kivsim,
+// A folder of the simulated phone's libraries: beside an installed kivsim,
 // else where the build put it.
-QString servicesFolder()
+QString libraryFolder(const char *installed, const char *built, const char *library)
 {
-    const QString installed = QCoreApplication::applicationDirPath()
-        + QStringLiteral("/../" KIVSIM_LIBDIR "/kivsim");
-    if (QFileInfo::exists(installed + QStringLiteral("/libkivtambro_util.so")))
-        return QDir::cleanPath(installed);
-    return QStringLiteral(KIVSIM_SERVICES_DIR);
+    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/../" KIVSIM_LIBDIR "/")
+        + QLatin1String(installed);
+    if (QFileInfo::exists(beside + u'/' + QLatin1String(library)))
+        return QDir::cleanPath(beside);
+    return QLatin1String(built);
 }
 
-// The library loads the services library by its bare name: a phone that has
-// one gets its folder on the library path.
-void provideServices(BwrapCommand &command, const SandboxSettings &settings)
+// The library finds its platform by its name on the library path, as a phone
+// provides it; the services library too, where the phone has one (the
+// library loads it by its bare name).
+void provideLibraries(BwrapCommand &command, const SandboxSettings &settings)
 {
-    if (!settings.services)
-        return;
-    const QString folder = servicesFolder();
+    QStringList folders{libraryFolder(KIVSIM_PLATFORM_SUBDIR, KIVSIM_PLATFORM_DIR, "libkivtambro-platform.so.1")};
+    if (settings.services)
+        folders << libraryFolder("kivsim", KIVSIM_SERVICES_DIR, "libkivtambro_util.so");
+    for (const QString &folder : std::as_const(folders))
+        command.revealHostPath(folder, BwrapCommand::Access::ReadOnly);
     const QString inherited = qEnvironmentVariable("LD_LIBRARY_PATH");
-    command.revealHostPath(folder, BwrapCommand::Access::ReadOnly);
-    command.setEnvironment(QStringLiteral("LD_LIBRARY_PATH"),
-                           inherited.isEmpty() ? folder : folder + u':' + inherited);
+    if (!inherited.isEmpty())
+        folders << inherited;
+    command.setEnvironment(QStringLiteral("LD_LIBRARY_PATH"), folders.join(u':'));
 }
 
 void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
@@ -378,7 +381,7 @@ int main(int argc, char *argv[])
     if (!shareJournal(command))
         return ExitCode::SetupFailed;
     shareWindowSystem(command);
-    provideServices(command, settings);
+    provideLibraries(command, settings);
     setUpProcess(command, settings, invocation->command);
 
     const QStringList arguments = command.arguments(invocation->command);

@@ -2,7 +2,7 @@
 // player's plays the file in a running MPRIS player, else opens it with the
 // default application of its type; the image viewer's opens the picture with
 // the default one. A request this machine has no application for is refused.
-#include "AM_ActionData.h"
+#include "action_values.h"
 
 #include "applications.h"
 #include "warning.h"
@@ -11,25 +11,6 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QUrl>
-#include <QVariant>
-
-#include <utility>
-#include <vector>
-
-struct AM_ActionData::Data
-{
-    QString action;
-    std::vector<std::pair<QString, QVariant>> values;
-
-    QString value(const QString &key) const
-    {
-        for (const auto &[name, value] : values) {
-            if (name == key)
-                return value.toString();
-        }
-        return QString();
-    }
-};
 
 namespace {
 
@@ -55,25 +36,6 @@ bool playInRunningPlayer(const QString &uri)
 }
 
 } // namespace
-
-AM_ActionData::AM_ActionData() : d(std::make_unique<Data>()) {}
-
-AM_ActionData::~AM_ActionData() = default;
-
-void AM_ActionData::setAction(const QString &action)
-{
-    d->action = action;
-}
-
-void AM_ActionData::setValue(const QString &key, const QString &value)
-{
-    d->values.emplace_back(key, QVariant(value));
-}
-
-void AM_ActionData::setValue(const QString &key, int value)
-{
-    d->values.emplace_back(key, QVariant(value));
-}
 
 bool AM_ActionData::invoke(bool)
 {

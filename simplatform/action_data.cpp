@@ -1,37 +1,8 @@
-#include "AM_ActionData.h"
+#include "action_values.h"
 
 #include "journal.h"
 
 #include <QJsonArray>
-#include <QVariant>
-
-#include <utility>
-#include <vector>
-
-struct AM_ActionData::Data
-{
-    QString action;
-    std::vector<std::pair<QString, QVariant>> values;
-};
-
-AM_ActionData::AM_ActionData() : d(std::make_unique<Data>()) {}
-
-AM_ActionData::~AM_ActionData() = default;
-
-void AM_ActionData::setAction(const QString &action)
-{
-    d->action = action;
-}
-
-void AM_ActionData::setValue(const QString &key, const QString &value)
-{
-    d->values.emplace_back(key, QVariant(value));
-}
-
-void AM_ActionData::setValue(const QString &key, int value)
-{
-    d->values.emplace_back(key, QVariant(value));
-}
 
 bool AM_ActionData::invoke(bool waitForReply)
 {

@@ -59,6 +59,14 @@ test_layout() {
             [ "$KIVSIM_DEVICE" = /run/kivsim/device/device.ini ] && cmp "$KIVSIM_DEVICE" device.ini &&
             touch "$KIV_APP_WRITE_PATH/written"' || fail "environment or write folder not as expected"
     [ "$(on "$sample" pwd)" = "$(pwd)" ] || fail "working folder not kept"
+    # The platform's folder first; of the caller's library path only absolute folders.
+    local path
+    path=$(LD_LIBRARY_PATH=::lib:/opt/x "$kivsim" --device "$sample" -- printenv LD_LIBRARY_PATH)
+    case "$path" in
+    *::* | *:lib:* | :*) fail "the library path $path names the working folder" ;;
+    */kivtambro-platform/simulator:*:/opt/x) ;;
+    *) fail "library path $path: not the platform's first and the caller's absolute folders" ;;
+    esac
 }
 
 test_isolation() {

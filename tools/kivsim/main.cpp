@@ -298,9 +298,12 @@ void provideLibraries(BwrapCommand &command, const SandboxSettings &settings)
         folders << libraryFolder("kivsim", KIVSIM_SERVICES_DIR, "libkivtambro_util.so");
     for (const QString &folder : std::as_const(folders))
         command.revealHostPath(folder, BwrapCommand::Access::ReadOnly);
-    const QString inherited = qEnvironmentVariable("LD_LIBRARY_PATH");
-    if (!inherited.isEmpty())
-        folders << inherited;
+    // Of the caller's, only absolute folders: an empty or relative entry names
+    // a folder of wherever a program inside starts, which the command may write.
+    for (const QString &inherited : qEnvironmentVariable("LD_LIBRARY_PATH").split(u':')) {
+        if (inherited.startsWith(u'/'))
+            folders << inherited;
+    }
     command.setEnvironment(QStringLiteral("LD_LIBRARY_PATH"), folders.join(u':'));
 }
 

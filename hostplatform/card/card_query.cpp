@@ -177,7 +177,25 @@ bool cannotBeMounted(const CardState &state)
     return state.inserted && (state.locked || state.unformatted || state.invalid);
 }
 
+bool isRemovable(const ManagedObjects &objects, const QVariantMap &block)
+{
+    const QVariantMap drive = driveOf(objects, block);
+    return !property<bool>(block, "HintSystem")
+        && (property<bool>(drive, "MediaRemovable") || property<bool>(drive, "Removable"));
+}
+
 } // namespace
+
+QString mountedCardFolder(int timeoutMs)
+{
+    const ManagedObjects objects = managedObjects(timeoutMs);
+    for (const Interfaces &interfaces : objects) {
+        const QByteArrayList points = mountPointsOf(interfaces.value(filesystemInterface));
+        if (!points.isEmpty() && isRemovable(objects, interfaces.value(blockInterface)))
+            return QFile::decodeName(points.constFirst());
+    }
+    return QString();
+}
 
 CardState kernelCardState(const CardPlaces &places)
 {

@@ -74,6 +74,11 @@ struct CardPlaces
 // is not absolute has no card.
 CardState queryCardState(const CardPlaces &places);
 
+// Where UDisks2 reports the memory card mounted: the first mount point (by
+// object path) of a file system on a drive with removable media that is not
+// one of the system's own. Empty when there is none, or no UDisks2.
+QString mountedCardFolder(int timeoutMs = 1000);
+
 // Step 2 alone: the last mount at the folder in procRoot/self/mountinfo.
 CardState kernelCardState(const CardPlaces &places);
 

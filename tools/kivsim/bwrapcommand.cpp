@@ -45,6 +45,17 @@ QStringList entriesUsedIn(const QString &folder, const QStringList &paths)
     return names;
 }
 
+// The descriptor moved above the one the start script reports on, which the
+// child's would otherwise replace. -1 stays -1.
+int aboveStartedFd(int fd)
+{
+    if (fd < 0 || fd > CommandStartedFd)
+        return fd;
+    const int moved = ::fcntl(fd, F_DUPFD_CLOEXEC, CommandStartedFd + 1);
+    ::close(fd);
+    return moved;
+}
+
 // Where an open file is, all links resolved.
 QString pathOf(int fd)
 {
@@ -79,8 +90,30 @@ BwrapCommand::BwrapCommand(const QString &deviceCopy, const SandboxSettings &set
 {
 }
 
+BwrapCommand::BwrapCommand(const HostPhone &phone) : m_onHost(true)
+{
+    bindStorage(phone.phoneFolder, QLatin1String(KivPaths::PhoneMemory));
+    if (!phone.cardFolder.isEmpty())
+        bindStorage(phone.cardFolder, QLatin1String(KivPaths::MemoryCard));
+    m_deviceCopy = phone.dataFolder;
+}
+
+// By a descriptor, so that the folder judged is the folder bound.
+void BwrapCommand::bindStorage(const QString &folder, const QString &mountPoint)
+{
+    const int fd = aboveStartedFd(::open(QFile::encodeName(folder).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    const QString problem = fd < 0 ? QString::fromLocal8Bit(std::strerror(errno)) : unfitStorageFolder(pathOf(fd));
+    if (!problem.isEmpty() && m_storageProblem.isEmpty())
+        m_storageProblem = QStringLiteral("cannot use %1: %2").arg(folder, problem);
+    m_storageBinds.append(StorageBind{fd, mountPoint});
+}
+
 BwrapCommand::~BwrapCommand()
 {
+    for (const StorageBind &bind : std::as_const(m_storageBinds)) {
+        if (bind.fd >= 0)
+            ::close(bind.fd);
+    }
     for (const Revealed &revealed : std::as_const(m_revealed)) {
         if (revealed.fd >= 0)
             ::close(revealed.fd);
@@ -104,8 +137,8 @@ QString BwrapCommand::revealHostPath(const QString &path, Access access, int ope
         return clash;
     }
     const int fd = openFile >= 0
-        ? ::fcntl(openFile, F_DUPFD_CLOEXEC, 0)
-        : ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
+        ? ::fcntl(openFile, F_DUPFD_CLOEXEC, CommandStartedFd + 1)
+        : aboveStartedFd(::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC));
     if (fd < 0)
         return QString::fromLocal8Bit(std::strerror(errno));
     const QString resolved = pathOf(fd);
@@ -125,6 +158,8 @@ QList<int> BwrapCommand::descriptors() const
         if (revealed.fd >= 0)
             fds << revealed.fd;
     }
+    for (const StorageBind &bind : m_storageBinds)
+        fds << bind.fd;
     return fds;
 }
 
@@ -175,6 +210,8 @@ QStringList BwrapCommand::arguments(const QStringList &command) const
 QStringList BwrapCommand::phonePlaces() const
 {
     QStringList places = PhoneLayout::fixedPlaces(m_settings);
+    if (m_onHost) // the system's own mount table, shown as the host has it
+        places.removeOne(PhoneLayout::mountTable);
     const QString writeFolder = folderOf(m_settings.writePath);
     if (!writeFolder.isEmpty())
         places << writeFolder;
@@ -199,9 +236,10 @@ QStringList BwrapCommand::hostArguments() const
 QStringList BwrapCommand::deviceArguments() const
 {
     const QDir copy(m_deviceCopy);
-    QStringList binds = {QStringLiteral("--bind"), m_deviceCopy, PhoneLayout::deviceFolder,
-                         QStringLiteral("--bind"), copy.filePath(m_settings.mountTable),
-                         PhoneLayout::mountTable};
+    QStringList binds;
+    if (!m_onHost)
+        binds = {QStringLiteral("--bind"), m_deviceCopy, PhoneLayout::deviceFolder,
+                 QStringLiteral("--bind"), copy.filePath(m_settings.mountTable), PhoneLayout::mountTable};
     for (const PhoneLayout::SystemFolder &folder : PhoneLayout::systemFolders()) {
         if (QFileInfo(copy.filePath(folder.contentFolder)).isDir())
             binds << QStringLiteral("--ro-bind") << copy.filePath(folder.contentFolder)
@@ -233,6 +271,14 @@ QStringList BwrapCommand::storageArguments() const
     if (m_ownRuntimeFolder)
         arguments << QStringLiteral("--perms") << QStringLiteral("0700") << QStringLiteral("--tmpfs")
                   << PhoneLayout::runtimeFolder;
+    return arguments + hostStorageArguments();
+}
+
+QStringList BwrapCommand::hostStorageArguments() const
+{
+    QStringList arguments;
+    for (const StorageBind &bind : m_storageBinds)
+        arguments << QStringLiteral("--bind-fd") << QString::number(bind.fd) << bind.mountPoint;
     return arguments;
 }
 

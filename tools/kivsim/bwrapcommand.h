@@ -1,6 +1,7 @@
 // The bwrap command line that lays out the phone and runs a command in it.
 #pragma once
 
+#include "hostphone.h"
 #include "sandboxsettings.h"
 
 #include <QList>
@@ -16,6 +17,14 @@ public:
 
     // deviceCopy: the host folder holding the run's copy of the device folder.
     BwrapCommand(const QString &deviceCopy, const SandboxSettings &settings);
+    // The phone over this machine: its storages are the user's folders,
+    // bound writable in place, and the mount table is the system's own. The
+    // command keeps the caller's ids, which must not be root: the buses
+    // authenticate a client by the uid it names, which a user namespace would
+    // change, so the phone's user (2000:233) is not mapped. The library's
+    // handing of its folders to that user then fails harmlessly, and all it
+    // makes is the caller's. Call storageProblem() before anything else.
+    explicit BwrapCommand(const HostPhone &phone);
     ~BwrapCommand();
     BwrapCommand(const BwrapCommand &) = delete;
     BwrapCommand &operator=(const BwrapCommand &) = delete;
@@ -24,6 +33,9 @@ public:
     // folder. A writable path in it is refused; one that holds it keeps it
     // read-only.
     void protectFolder(const QString &folder);
+    // Why a storage folder of the phone on this machine cannot be bound; empty
+    // when all can.
+    const QString &storageProblem() const { return m_storageProblem; }
 
     // Shows a host path (a folder or a file) at the same place inside, judged
     // by where it leads once its links are resolved. The host is visible
@@ -59,6 +71,8 @@ private:
     QStringList privilegeArguments() const;
     QString clashOf(const QString &path, Access access) const;
     QString fillScript() const;
+    void bindStorage(const QString &folder, const QString &mountPoint);
+    QStringList hostStorageArguments() const;
 
     QString m_deviceCopy;
     SandboxSettings m_settings;
@@ -73,4 +87,12 @@ private:
     QList<QPair<QString, QString>> m_environment;
     QString m_workingDirectory;
     bool m_ownRuntimeFolder = false;
+    bool m_onHost = false;
+    struct StorageBind
+    {
+        int fd = -1; // the user's folder, opened before it was judged
+        QString mountPoint;
+    };
+    QList<StorageBind> m_storageBinds;
+    QString m_storageProblem;
 };

@@ -6,6 +6,7 @@
 #include "confinedpath.h"
 #include "devicecopy.h"
 #include "exitcodes.h"
+#include "hostphone.h"
 #include "phonelayout.h"
 #include "sandboxrunner.h"
 #include "sandboxsettings.h"
@@ -13,6 +14,7 @@
 
 #include "printable/printable_text.h"
 #include "platformcommon/keyfile.h"
+#include "card_state.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -21,6 +23,7 @@
 #include <QFile>
 #include <QStandardPaths>
 #include <QTextStream>
+#include <QUrl>
 
 #include <cerrno>
 #include <cstring>
@@ -39,6 +42,9 @@ struct Invocation
     bool verbose = false;
     bool keep = false;
     QStringList shared; // host folders the command may write
+    bool host = false; // the phone over this machine's own services and folders
+    QString phoneFolder; // on this machine: the phone memory
+    QString cardFolder; // on this machine: the memory card
 };
 
 // Every line kivsim writes, escaped: paths and values come from device
@@ -78,7 +84,21 @@ std::optional<Invocation> parseArguments(const QStringList &arguments)
         QStringLiteral("Let the command write into this host folder, at the same path inside "
                        "(repeatable)."),
         QStringLiteral("dir"));
-    parser.addOptions({device, verbose, keep, share});
+    const QCommandLineOption host(
+        QStringLiteral("host"),
+        QStringLiteral("Lay out the phone over this machine instead: its own services and buses, a "
+                       "folder of the user's as the phone memory, the card that UDisks2 has "
+                       "mounted, the preloaded content of the device folder. Files are used in "
+                       "place and the command runs as the user, never as root."));
+    const QCommandLineOption phone(QStringLiteral("phone"),
+                                   QStringLiteral("With --host: the phone memory (default: %1).")
+                                       .arg(defaultPhoneFolder()),
+                                   QStringLiteral("dir"));
+    const QCommandLineOption card(
+        QStringLiteral("card"),
+        QStringLiteral("With --host: the memory card, instead of the one UDisks2 has mounted."),
+        QStringLiteral("dir"));
+    parser.addOptions({device, verbose, keep, share, host, phone, card});
     const QCommandLineOption help = parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("command"),
                                  QStringLiteral("The command to run, with its arguments."),
@@ -94,8 +114,13 @@ std::optional<Invocation> parseArguments(const QStringList &arguments)
         reportUsage(QStringLiteral("no command given"));
         return std::nullopt;
     }
+    if (!parser.isSet(host) && (parser.isSet(phone) || parser.isSet(card))) {
+        reportUsage(QStringLiteral("--phone and --card are for --host"));
+        return std::nullopt;
+    }
     return Invocation{parser.value(device), parser.positionalArguments(), parser.isSet(verbose),
-                      parser.isSet(keep), parser.values(share)};
+                      parser.isSet(keep),       parser.values(share),          parser.isSet(host),
+                      parser.value(phone),      parser.value(card)};
 }
 
 bool isDeviceFolder(const QString &folder)
@@ -291,10 +316,12 @@ QString libraryFolder(const char *installed, const char *built, const char *libr
 // The library finds its platform by its name on the library path, as a phone
 // provides it; the services library too, where the phone has one (the
 // library loads it by its bare name).
-void provideLibraries(BwrapCommand &command, const SandboxSettings &settings)
+void provideLibraries(BwrapCommand &command, const SandboxSettings &settings, bool onHost = false)
 {
-    QStringList folders{libraryFolder(KIVSIM_PLATFORM_SUBDIR, KIVSIM_PLATFORM_DIR, "libkivtambro-platform.so.1")};
-    if (settings.services)
+    const char *platform = "libkivtambro-platform.so.1";
+    QStringList folders{onHost ? libraryFolder(KIVSIM_HOST_PLATFORM_SUBDIR, KIVSIM_HOST_PLATFORM_DIR, platform)
+                               : libraryFolder(KIVSIM_PLATFORM_SUBDIR, KIVSIM_PLATFORM_DIR, platform)};
+    if (settings.services && !onHost)
         folders << libraryFolder("kivsim", KIVSIM_SERVICES_DIR, "libkivtambro_util.so");
     for (const QString &folder : std::as_const(folders))
         command.revealHostPath(folder, BwrapCommand::Access::ReadOnly);
@@ -308,16 +335,19 @@ void provideLibraries(BwrapCommand &command, const SandboxSettings &settings)
 }
 
 void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
-                  const QStringList &commandLine)
+                  const QStringList &commandLine, bool onHost = false)
 {
     command.setEnvironment(QStringLiteral("TAMBRO_DATA_PATH"), settings.dataPath);
     command.setEnvironment(QStringLiteral("KIV_APP_WRITE_PATH"), settings.writePath);
-    command.setEnvironment(QStringLiteral("KIVSIM_DEVICE"), PhoneLayout::deviceFile);
+    if (!onHost)
+        command.setEnvironment(QStringLiteral("KIVSIM_DEVICE"), PhoneLayout::deviceFile);
     // A writable home of the application's own, where font and other caches
-    // may be kept: the host's is read-only inside.
+    // may be kept: the host's is read-only inside. On this machine the home
+    // stays the user's, for the desktop's settings; only the caches move.
     const QString writeFolder = folderOf(settings.writePath);
     const QString home = writeFolder.isEmpty() ? QStringLiteral("/tmp") : writeFolder;
-    command.setEnvironment(QStringLiteral("HOME"), home);
+    if (!onHost)
+        command.setEnvironment(QStringLiteral("HOME"), home);
     command.setEnvironment(QStringLiteral("XDG_CACHE_HOME"), home + QStringLiteral("/.cache"));
     command.setWorkingDirectory(QDir::currentPath());
 #ifdef KIVSIM_BUILD_DIR_WRITABLE
@@ -331,6 +361,88 @@ void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
     if (commandLine.constFirst().contains(u'/')
         && !command.revealHostPath(program.absolutePath(), BwrapCommand::Access::ReadOnly).isEmpty())
         command.revealHostPath(program.absoluteFilePath(), BwrapCommand::Access::ReadOnly);
+}
+
+// The bus sockets that lie where the sandbox hides the host (/tmp, /run), as
+// the session's and the system's addresses name them; abstract ones need nothing.
+void shareBuses(BwrapCommand &command)
+{
+    const QStringList addresses = {
+        qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"),
+        qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS", QStringLiteral("unix:path=/run/dbus/system_bus_socket"))};
+    for (const QString &address : addresses) {
+        for (const QString &entry : address.split(u';', Qt::SkipEmptyParts)) {
+            if (!entry.startsWith(QLatin1String("unix:")))
+                continue;
+            for (const QString &key : entry.mid(5).split(u',')) {
+                if (key.startsWith(QLatin1String("path=")))
+                    command.revealHostPath(QUrl::fromPercentEncoding(key.mid(5).toUtf8()),
+                                           BwrapCommand::Access::ReadOnly);
+            }
+        }
+    }
+}
+
+// The preloaded content and the folder structure are read where they are:
+// through a link they could show a host folder that the sandbox hides.
+bool dataFolderConfined(const QString &folder)
+{
+    for (const PhoneLayout::SystemFolder &system : PhoneLayout::systemFolders()) {
+        QString error;
+        if (!resolveInside(folder, system.contentFolder, error)) {
+            report(QStringLiteral("cannot use the device folder: ") + error);
+            return false;
+        }
+    }
+    return true;
+}
+
+// The phone memory as the user, made when it is the default and missing.
+QString preparePhoneFolder(const Invocation &invocation)
+{
+    if (invocation.phoneFolder.isEmpty() && ::geteuid() == 0)
+        return QStringLiteral("as root, --host needs --phone: a folder of the user whose files it holds");
+    const QString folder = invocation.phoneFolder.isEmpty() ? defaultPhoneFolder() : invocation.phoneFolder;
+    const QString error = becomeOwnerOf(folder);
+    if (!error.isEmpty())
+        return error;
+    if (invocation.phoneFolder.isEmpty() && !QDir().mkpath(folder))
+        return QStringLiteral("cannot create the phone folder ") + folder;
+    return QString();
+}
+
+int runOnHost(const Invocation &invocation)
+{
+    const QString problem = preparePhoneFolder(invocation);
+    if (!problem.isEmpty()) {
+        report(problem);
+        return ExitCode::SetupFailed;
+    }
+    const HostPhone phone{invocation.phoneFolder.isEmpty() ? defaultPhoneFolder() : invocation.phoneFolder,
+                          invocation.cardFolder.isEmpty() ? KivHost::mountedCardFolder() : invocation.cardFolder,
+                          invocation.deviceFolder};
+    if (!dataFolderConfined(phone.dataFolder))
+        return ExitCode::SetupFailed;
+    BwrapCommand command(phone);
+    if (!command.storageProblem().isEmpty()) {
+        report(command.storageProblem());
+        return ExitCode::SetupFailed;
+    }
+    if (!shareFolders(command, invocation.shared))
+        return ExitCode::Usage;
+    shareBuses(command);
+    shareWindowSystem(command);
+    const SandboxSettings phoneDefaults;
+    provideLibraries(command, phoneDefaults, true);
+    setUpProcess(command, phoneDefaults, invocation.command, true);
+    const QStringList arguments = command.arguments(invocation.command);
+    if (invocation.verbose) {
+        report(QStringLiteral("phone memory: %1, memory card: %2")
+                   .arg(phone.phoneFolder, phone.cardFolder.isEmpty() ? QStringLiteral("none") : phone.cardFolder));
+        report(QStringLiteral("bwrap ") + shellQuote(arguments));
+    }
+    return endingSignal() != 0 ? 128 + endingSignal()
+                               : runSandbox(QStringLiteral("bwrap"), arguments, command.descriptors());
 }
 
 // As root, the start script hands the command over to the phone's user.
@@ -362,6 +474,8 @@ int main(int argc, char *argv[])
     const std::optional<Invocation> invocation = parseArguments(app.arguments());
     if (!invocation || !isDeviceFolder(invocation->deviceFolder) || !canShare(invocation->shared))
         return ExitCode::Usage;
+    if (invocation->host)
+        return runOnHost(*invocation);
     SandboxSettings settings = readSettings(invocation->deviceFolder);
     if (!writeFolderFits(settings) || !canHandOver())
         return ExitCode::SetupFailed;

@@ -2,6 +2,7 @@
 // operation is journaled with its arguments and answers as the device file's
 // [services] section says; bookmarks and Java descriptors are read for real.
 #include "documents.h"
+#include "services_entry.h"
 
 #include "device.h"
 #include "journal.h"
@@ -38,7 +39,7 @@ public:
                           int installArgument) override
     {
         call("J2ME_JAID_ViewJad").arg("jadPath", jadPath).arg("installArgument", installArgument).write();
-        const std::optional<KivSim::JavaDescriptor> descriptor = KivSim::javaDescriptor(jadPath);
+        const std::optional<KivPlatform::JavaDescriptor> descriptor = KivPlatform::javaDescriptor(jadPath);
         if (descriptor) {
             archiveName = descriptor->archiveName;
             number = descriptor->applications;
@@ -83,7 +84,7 @@ public:
     void Browser_GetUrl(const QString &bookmarkPath, QString &url) override
     {
         call("Browser_GetUrl").arg("bookmarkPath", bookmarkPath).write();
-        if (const std::optional<QString> found = KivSim::bookmarkUrl(bookmarkPath))
+        if (const std::optional<QString> found = KivPlatform::bookmarkUrl(bookmarkPath))
             url = *found;
     }
     int UpdateBookmarkTitle(const QString &path) override { return onFile("UpdateBookmarkTitle", path); }
@@ -138,17 +139,7 @@ private:
 
 } // namespace
 
-extern "C" {
-
-__attribute__((visibility("default"))) TAMBRO_UTIL_Interface *TAMBRO_EXPORT_CreateInterface()
+TAMBRO_UTIL_Interface *KivPlatform::makeServices()
 {
     return new SimulatedServices;
-}
-
-__attribute__((visibility("default"))) int TAMBRO_EXPORT_DeleteInterface(TAMBRO_UTIL_Interface **service)
-{
-    delete *service;
-    *service = nullptr;
-    return 0;
-}
 }

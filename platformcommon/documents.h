@@ -1,11 +1,12 @@
-// What the simulated services read out of the files they are given.
+// What a platform's services library reads out of the files it is given:
+// bookmarks, whose URL every platform opens, and Java descriptors.
 #pragma once
 
 #include <QString>
 
 #include <optional>
 
-namespace KivSim {
+namespace KivPlatform {
 
 // The URL of a bookmark file: "URL=" in the [InternetShortcut] section of a
 // ".url" file, or the "URL:" property of a vBookmark (".vbm"). Nothing when
@@ -21,4 +22,4 @@ struct JavaDescriptor
 // A Java descriptor's "name: value" lines; nothing when it is unreadable.
 std::optional<JavaDescriptor> javaDescriptor(const QString &path);
 
-} // namespace KivSim
+} // namespace KivPlatform

@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-namespace KivSim {
+namespace KivPlatform {
 
 namespace {
 
@@ -64,4 +64,4 @@ std::optional<JavaDescriptor> javaDescriptor(const QString &path)
     return descriptor;
 }
 
-} // namespace KivSim
+} // namespace KivPlatform

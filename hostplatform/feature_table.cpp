@@ -12,7 +12,7 @@ struct Default
     bool value;
 };
 
-constexpr Default Defaults[] = {{149, false}, {162, false}, {205, true}, {212, false}, {514, false}};
+constexpr Default Defaults[] = {{149, false}, {162, false}, {205, false}, {212, false}, {514, false}};
 
 std::optional<bool> setIn(const QString &folder, unsigned short bit)
 {

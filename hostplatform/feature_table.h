@@ -4,7 +4,7 @@
 // decides it. A bit no file sets has its default below, chosen for a desktop:
 //   149 posting to a blog by multimedia message   0
 //   162 installing native packages (.mpkg)        0
-//   205 e-mail                                    1
+//   205 e-mail (the machine has no e-mail service) 0
 //   212 postcards                                 0
 //   514 the blog centre                           0
 // Any other bit is unknown.

@@ -17,11 +17,11 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("system");
         QTest::addColumn<int>("bit");
         QTest::addColumn<int>("expected"); // -1: unknown
-        QTest::newRow("default: e-mail on") << QByteArray() << QByteArray() << 205 << 1;
+        QTest::newRow("default: e-mail off, which this machine does not serve") << QByteArray() << QByteArray() << 205 << 0;
         QTest::newRow("default: native packages off") << QByteArray() << QByteArray() << 162 << 0;
         QTest::newRow("unknown bit") << QByteArray() << QByteArray() << 7 << -1;
         QTest::newRow("the user's before the system's") << QByteArray("[flex]\n205 = 0\n") << QByteArray("[flex]\n205 = 1\n") << 205 << 0;
-        QTest::newRow("the system's before the default") << QByteArray("[other]\n205 = 0\n") << QByteArray("[flex]\n205 = 0\n") << 205 << 0;
+        QTest::newRow("the system's before the default") << QByteArray("[other]\n205 = 0\n") << QByteArray("[flex]\n205 = 1\n") << 205 << 1;
         QTest::newRow("an odd value passed over") << QByteArray("[flex]\n162 = yes\n") << QByteArray("[flex]\n162 = 1\n") << 162 << 1;
         QTest::newRow("a bit with no default set") << QByteArray("[flex]\n7 = 1\n") << QByteArray() << 7 << 1;
     }

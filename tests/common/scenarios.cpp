@@ -24,10 +24,18 @@ QStringList scenariosOf(const QString &program)
     return scenarios;
 }
 
-// kivsim --device DEVICE -- env [-u NAME] [NAME=value] PROGRAM SCENARIO
+// kivsim --device DEVICE -- [sh -c ...] env [-u NAME] [NAME=value] PROGRAM SCENARIO
 bool runOnItsPhone(const QString &program, const QString &scenario, const Setup &setup)
 {
-    QStringList command = {"--device", setup.device.isEmpty() ? KIVTAMBRO_BARE_DEVICE : setup.device, "--", "env"};
+    QStringList command = {"--device", setup.device.isEmpty() ? KIVTAMBRO_BARE_DEVICE : setup.device, "--"};
+    // The runner's library path goes before the simulated phone's that kivsim
+    // sets, so that it chooses the platform as for any other test; only its
+    // absolute folders, as kivsim takes them.
+    QStringList ownPath = qEnvironmentVariable("LD_LIBRARY_PATH").split(u':');
+    ownPath.removeIf([](const QString &folder) { return !folder.startsWith(u'/'); });
+    if (!ownPath.isEmpty())
+        command << "sh" << "-c" << R"(export LD_LIBRARY_PATH="$0:$LD_LIBRARY_PATH"; exec "$@")" << ownPath.join(u':');
+    command << "env";
     for (const QString &setting : setup.environment)
         command << (setting.startsWith(u'-') ? QStringList{"-u", setting.mid(1)} : QStringList{setting});
     QProcess process;
@@ -44,19 +52,26 @@ int run(QObject &test, int argc, char **argv, const QHash<QString, Setup> &setup
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    if (argc > 1)
+    QStringList only; // "--only NAME...": these functions' or rows' scenarios
+    if (argc > 1 && qstrcmp(argv[1], "--only") == 0) {
+        for (int i = 2; i < argc; ++i)
+            only << QString::fromLocal8Bit(argv[i]);
+    } else if (argc > 1) {
         return QTest::qExec(&test, argc, argv);
+    }
     const QString program = QCoreApplication::applicationFilePath();
     const QStringList scenarios = scenariosOf(program);
     QStringList functions;
     for (const QString &scenario : scenarios)
         functions << scenario.section(u':', 0, 0);
-    for (auto it = setups.cbegin(); it != setups.cend(); ++it) {
-        if (!functions.contains(it.key()) && !scenarios.contains(it.key()))
-            qFatal("a setup names no test function or row: %s", qPrintable(it.key()));
+    for (const QString &name : setups.keys() + only) {
+        if (!functions.contains(name) && !scenarios.contains(name))
+            qFatal("a setup or --only names no test function or row: %s", qPrintable(name));
     }
     QStringList failed;
     for (const QString &scenario : scenarios) {
+        if (!only.isEmpty() && !only.contains(scenario) && !only.contains(scenario.section(u':', 0, 0)))
+            continue;
         Setup setup = setups.value(scenario, setups.value(scenario.section(u':', 0, 0)));
         if (setup.device.isEmpty())
             setup.device = defaultDevice;

@@ -1,8 +1,9 @@
 // Tests of the library's process-wide state: each test function, and each row
 // of a data-driven one, is a scenario run in a process and on a simulated phone
 // of its own. Without arguments the program starts itself inside kivsim once
-// per scenario QTest lists, so none can be left out; with a function's name it
-// runs that function like any QTest program.
+// per scenario QTest lists, so none can be left out ("--only NAME..." limits
+// them to those functions or rows); with a function's name it runs that
+// function like any QTest program.
 #pragma once
 
 #include <QHash>

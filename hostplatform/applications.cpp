@@ -1,6 +1,7 @@
 #include "applications.h"
 
 #include "exec_line.h"
+#include "portal.h"
 #include "warning.h"
 
 #include <QDBusConnection>
@@ -8,6 +9,8 @@
 #include <QMimeDatabase>
 #include <QProcess>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace {
 
@@ -38,6 +41,8 @@ const MimeApps &applications()
 
 bool startApplication(const QString &desktopId, const QStringList &items)
 {
+    if (inSandbox())
+        return std::all_of(items.cbegin(), items.cend(), openThroughPortal);
     const DesktopEntry *entry = desktopId.isEmpty() ? nullptr : applications().application(desktopId);
     if (!entry) {
         platformWarning(QStringLiteral("no application on this machine for %1").arg(items.join(u' ')));

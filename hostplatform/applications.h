@@ -12,7 +12,9 @@ const MimeApps &applications();
 
 // Starts the application of the desktop file id on the items (paths or
 // URLs): a D-Bus activatable one through org.freedesktop.Application.Open,
-// else its Exec line, detached. False, with a warning, when it cannot be.
+// else its Exec line, detached. Inside a Flatpak sandbox the desktop portal
+// opens each item instead, whatever the id. False, with a warning, when it
+// cannot be.
 bool startApplication(const QString &desktopId, const QStringList &items);
 
 // The default application of the path's type, started on it.

@@ -45,7 +45,7 @@ bool startApplication(const QString &desktopId, const QStringList &items)
         return std::all_of(items.cbegin(), items.cend(), openThroughPortal);
     const DesktopEntry *entry = desktopId.isEmpty() ? nullptr : applications().application(desktopId);
     if (!entry) {
-        platformWarning(QStringLiteral("no application on this machine for %1").arg(items.join(u' ')));
+        platformWarning(QStringLiteral("no application on this machine for \"%1\"").arg(items.join(QStringLiteral("\", \""))));
         return false;
     }
     if (entry->dbusActivatable && desktopId.endsWith(QLatin1String(".desktop")))

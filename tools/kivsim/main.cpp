@@ -428,6 +428,7 @@ int runOnHost(const Invocation &invocation)
         report(command.storageProblem());
         return ExitCode::SetupFailed;
     }
+    command.protectFolder(phone.dataFolder);
     if (!shareFolders(command, invocation.shared))
         return ExitCode::Usage;
     shareBuses(command);

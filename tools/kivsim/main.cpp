@@ -397,12 +397,17 @@ bool dataFolderConfined(const QString &folder)
     return true;
 }
 
+QString phoneFolderOf(const Invocation &invocation)
+{
+    return invocation.phoneFolder.isEmpty() ? defaultPhoneFolder() : invocation.phoneFolder;
+}
+
 // The phone memory as the user, made when it is the default and missing.
 QString preparePhoneFolder(const Invocation &invocation)
 {
     if (invocation.phoneFolder.isEmpty() && ::geteuid() == 0)
         return QStringLiteral("as root, --host needs --phone: a folder of the user whose files it holds");
-    const QString folder = invocation.phoneFolder.isEmpty() ? defaultPhoneFolder() : invocation.phoneFolder;
+    const QString folder = phoneFolderOf(invocation);
     const QString error = becomeOwnerOf(folder);
     if (!error.isEmpty())
         return error;
@@ -418,7 +423,7 @@ int runOnHost(const Invocation &invocation)
         report(problem);
         return ExitCode::SetupFailed;
     }
-    const HostPhone phone{invocation.phoneFolder.isEmpty() ? defaultPhoneFolder() : invocation.phoneFolder,
+    const HostPhone phone{phoneFolderOf(invocation),
                           invocation.cardFolder.isEmpty() ? KivHost::mountedCardFolder() : invocation.cardFolder,
                           invocation.deviceFolder};
     if (!dataFolderConfined(phone.dataFolder))

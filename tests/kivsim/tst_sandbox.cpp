@@ -67,6 +67,7 @@ private Q_SLOTS:
         // Cleaned as text; outside the device folder (the fuzz target's invariant) it falls back.
         QCOMPARE(read("[sandbox]\nmtab = tables/../odd.mtab \n", warnings).mountTable, QStringLiteral("odd.mtab"));
         QCOMPARE(read("[sandbox]\nmtab =", warnings).mountTable, QStringLiteral("mtab"));
+        QCOMPARE(read("[sandbox]\nmtab = a/../:/etc/passwd", warnings).mountTable, QStringLiteral("mtab")); // a Qt resource path
     }
 
     // The command's status only once the start script said it starts it;

@@ -83,7 +83,8 @@ void SectionReader::readFileName(const KeyFile::Entry &entry, QString &target)
 {
     const QString name = entry.value.trimmed();
     const QString cleaned = QDir::cleanPath(name);
-    if (name.isEmpty() || QDir::isAbsolutePath(name) || cleaned.startsWith(QLatin1String(".."))) {
+    // The cleaned name is judged: "a/../:x" would become a Qt resource path.
+    if (name.isEmpty() || QDir::isAbsolutePath(cleaned) || cleaned.startsWith(QLatin1String(".."))) {
         warn(entry, QStringLiteral("not a file inside the device folder; \"%1\" is used")
                         .arg(target));
         return;

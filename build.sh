@@ -4,6 +4,8 @@
 #   ./build.sh demo   build, then show the sample phone's storage, folders and usage with tambro
 #   ./build.sh test   build, then run every test, also under ASan and UBSan,
 #                     then fuzz the file readers and the user's input with clang's libFuzzer
+#   ./build.sh docs   make the API reference of the public headers with Doxygen
+#                     into build/docs/html; any warning (an undocumented member) fails it
 #   ./build.sh coverage
 #                     build with gcov, run every test, and write a coverage
 #                     report with a summary per folder to build-coverage/report
@@ -96,6 +98,21 @@ EOF
     echo "Coverage report: $report/index.html"
 }
 
+# The API reference of the public headers, as docs/Doxyfile describes it.
+# Doxygen's own output goes to a log; a warning fails the run, with the
+# warnings shown and the log named.
+api_reference() {
+    log=build/docs/doxygen.log
+    rm -rf build/docs/html
+    mkdir -p build/docs
+    if ! doxygen docs/Doxyfile >"$log" 2>&1; then
+        grep -i -E 'warning|error' "$log" | head -n 40 >&2
+        echo "The API reference has warnings: Doxygen's log is in $log" >&2
+        return 1
+    fi
+    echo "API reference: build/docs/html/index.html"
+}
+
 # Draws the example file manager on the sample phone under an X server of its
 # own, into pictures a newcomer without a display can look at.
 show_file_manager() {
@@ -137,8 +154,13 @@ coverage)
     run_tests coverage
     coverage_report
     ;;
+docs)
+    packages="$packages doxygen"
+    install_missing_packages
+    api_reference
+    ;;
 *)
-    echo "usage: $0 demo|test|coverage" >&2
+    echo "usage: $0 demo|test|coverage|docs" >&2
     exit 2
     ;;
 esac

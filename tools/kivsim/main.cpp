@@ -7,6 +7,7 @@
 #include "devicecopy.h"
 #include "exitcodes.h"
 #include "hostphone.h"
+#include "installlayout.h"
 #include "phonelayout.h"
 #include "sandboxrunner.h"
 #include "sandboxsettings.h"
@@ -71,9 +72,9 @@ std::optional<Invocation> parseArguments(const QStringList &arguments)
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     const QCommandLineOption device(QStringLiteral("device"),
                                     QStringLiteral("The device folder (default: %1).")
-                                        .arg(QStringLiteral(KIVSIM_DEFAULT_DEVICE)),
+                                        .arg(InstallLayout::sampleDevice()),
                                     QStringLiteral("dir"),
-                                    QStringLiteral(KIVSIM_DEFAULT_DEVICE));
+                                    InstallLayout::sampleDevice());
     const QCommandLineOption verbose(
         QStringLiteral("verbose"),
         QStringLiteral("Print the host path of the device copy and the bwrap command."));
@@ -302,27 +303,14 @@ void shareWindowSystem(BwrapCommand &command)
     command.useOwnRuntimeFolder();
 }
 
-// A folder of the simulated phone's libraries: beside an installed kivsim,
-// else where the build put it.
-QString libraryFolder(const char *installed, const char *built, const char *library)
-{
-    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/../" KIVSIM_LIBDIR "/")
-        + QLatin1String(installed);
-    if (QFileInfo::exists(beside + u'/' + QLatin1String(library)))
-        return QDir::cleanPath(beside);
-    return QLatin1String(built);
-}
-
 // The library finds its platform by its name on the library path, as a phone
 // provides it; the services library too, where the phone has one (the
 // library loads it by its bare name).
 void provideLibraries(BwrapCommand &command, const SandboxSettings &settings, bool onHost = false)
 {
-    const char *platform = "libkivtambro-platform.so.1";
-    QStringList folders{onHost ? libraryFolder(KIVSIM_HOST_PLATFORM_SUBDIR, KIVSIM_HOST_PLATFORM_DIR, platform)
-                               : libraryFolder(KIVSIM_PLATFORM_SUBDIR, KIVSIM_PLATFORM_DIR, platform)};
+    QStringList folders{onHost ? InstallLayout::hostPlatformFolder() : InstallLayout::simulatorPlatformFolder()};
     if (settings.services && !onHost)
-        folders << libraryFolder("kivsim", KIVSIM_SERVICES_DIR, "libkivtambro_util.so");
+        folders << InstallLayout::simulatorServicesFolder();
     for (const QString &folder : std::as_const(folders))
         command.revealHostPath(folder, BwrapCommand::Access::ReadOnly);
     // Of the caller's, only absolute folders: an empty or relative entry names
@@ -350,11 +338,13 @@ void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
         command.setEnvironment(QStringLiteral("HOME"), home);
     command.setEnvironment(QStringLiteral("XDG_CACHE_HOME"), home + QStringLiteral("/.cache"));
     command.setWorkingDirectory(QDir::currentPath());
+    if (InstallLayout::runsFromBuild()) {
 #ifdef KIVSIM_BUILD_DIR_WRITABLE
-    command.revealHostPath(QStringLiteral(KIVSIM_BUILD_DIR), BwrapCommand::Access::ReadWrite);
+        command.revealHostPath(InstallLayout::buildFolder(), BwrapCommand::Access::ReadWrite);
 #else
-    command.revealHostPath(QStringLiteral(KIVSIM_BUILD_DIR), BwrapCommand::Access::ReadOnly);
+        command.revealHostPath(InstallLayout::buildFolder(), BwrapCommand::Access::ReadOnly);
 #endif
+    }
     // The command's folder, or the command alone where its folder is the
     // sandbox's own (a program right in /tmp).
     const QFileInfo program(commandLine.constFirst());
@@ -418,6 +408,10 @@ QString preparePhoneFolder(const Invocation &invocation)
 
 int runOnHost(const Invocation &invocation)
 {
+    if (!QFileInfo(InstallLayout::hostPlatformFolder()).isDir()) {
+        report(QStringLiteral("this machine's platform is not installed: no folder ") + InstallLayout::hostPlatformFolder());
+        return ExitCode::SetupFailed;
+    }
     const QString problem = preparePhoneFolder(invocation);
     if (!problem.isEmpty()) {
         report(problem);

@@ -2,7 +2,8 @@
 # Sets up a fresh Debian 12 machine and builds libkivtambro-base.
 #
 #   ./build.sh demo   build, then show the sample phone's storage, folders and usage with tambro
-#   ./build.sh test   build, then run every test, also under ASan and UBSan,
+#   ./build.sh test   build (the README's C++ examples too) and make the API reference,
+#                     then run every test, also under ASan and UBSan,
 #                     then fuzz the file readers and the user's input with clang's libFuzzer
 #   ./build.sh docs   make the API reference of the public headers with Doxygen
 #                     into build/docs/html; any warning (an undocumented member) fails it
@@ -138,8 +139,10 @@ demo)
     show_file_manager
     ;;
 test)
+    packages="$packages doxygen"
     install_missing_packages
     build plain
+    api_reference
     run_tests plain
     build sanitize
     run_tests sanitize

@@ -25,10 +25,10 @@ public:
     explicit TAMBRO_Char_Validator(QWidget *parent = nullptr, const char *name = nullptr);
 
     /// Invalid when the character before position is one of
-    /// ; * ? \@ \# \& = \< \> / | : \" \\ € £ ¤ § ¿ (written with Doxygen's
-    /// escapes here), a carriage return or a line
-    /// feed, or a "." at position 1; else Acceptable (also for a position of
-    /// 0 or less, or past the text). Changes neither text nor position.
+    /// ; * ? \@ \# \& = \< \> / | : \" \\ € £ ¤ § ¿<!-- a "\" before one of them
+    /// is Doxygen's escape -->, a carriage return or a line feed, or a "." at
+    /// position 1; else Acceptable (also for a position of 0 or less, or past
+    /// the text). Changes neither text nor position.
     /// Never Intermediate. A character beyond the Basic Multilingual Plane is
     /// two units, of which the second alone is looked at; it is never refused.
     State validate(QString &text, int &position) const override;

@@ -47,9 +47,23 @@ run_tests() {
 # instrumented: the rest is covered above.
 fuzz_all() {
     build fuzz
+    # A fuzzer keeps one core busy: as many run at once as there are cores.
+    set --
     while read -r target seconds; do
-        fuzz "$target" -max_total_time="$seconds"
+        fuzz "$target" -max_total_time="$seconds" &
+        set -- "$@" $!
+        [ $# -lt "$(nproc)" ] || { wait_for "$@"; set --; }
     done <build-fuzz/fuzz/targets.txt
+    wait_for "$@"
+}
+
+# wait_for PID...: fails when one of them failed, after all have ended.
+wait_for() {
+    failed=0
+    for pid; do
+        wait "$pid" || failed=1
+    done
+    return $failed
 }
 
 # fuzz TARGET LIBFUZZER-OPTION...: fuzzes on a scratch copy of the target's
@@ -139,7 +153,8 @@ demo)
     show_file_manager
     ;;
 test)
-    packages="$packages doxygen"
+    # The API reference, and the Debian packages the install test builds.
+    packages="$packages doxygen debhelper lintian"
     install_missing_packages
     build plain
     api_reference

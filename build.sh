@@ -27,8 +27,25 @@ install_missing_packages() {
     sudo=""
     [ "$(id -u)" -eq 0 ] || sudo="sudo"
     echo "Installing:$missing"
-    $sudo apt-get update -qq
-    $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing
+    quietly "Installing the packages" $sudo apt-get update
+    quietly "Installing the packages" $sudo env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends $missing
+}
+
+# What the quiet steps print goes to this log, which is named when one fails.
+log=build/build.log
+
+# quietly WHAT COMMAND...: runs COMMAND with its output in the log; stops the
+# script with the log's end where it fails.
+quietly() {
+    what=$1
+    shift
+    mkdir -p build
+    if ! "$@" >>"$log" 2>&1; then
+        tail -n 40 "$log" >&2
+        echo "$what failed; the whole log is $log" >&2
+        exit 1
+    fi
 }
 
 # build PRESET: configures and builds one of the builds CMakePresets.json
@@ -143,8 +160,10 @@ show_file_manager() {
 
 case "${1:-}" in
 demo)
+    rm -f "$log"
     install_missing_packages
-    build plain
+    echo "Building the library, its tools and the example file manager (log: $log)"
+    quietly "The build" build plain
     build/bin/kivsim -- build/bin/tambro storage
     echo
     build/bin/kivsim -- build/bin/tambro folders

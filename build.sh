@@ -145,6 +145,15 @@ api_reference() {
     echo "API reference: build/docs/html/index.html"
 }
 
+# show TITLE TAMBRO-ARGUMENT...: what tambro shows of the sample phone.
+show() {
+    title=$1
+    shift
+    echo
+    echo "== $title: tambro $*"
+    build/bin/kivsim -- build/bin/tambro "$@"
+}
+
 # Draws the example file manager on the sample phone under an X server of its
 # own, into pictures a newcomer without a display can look at.
 show_file_manager() {
@@ -154,7 +163,7 @@ show_file_manager() {
         env -u XAUTHORITY QT_QPA_PLATFORM=xcb FILEMANAGER_PICTURES="$pictures" \
         build/examples/filemanager/tests/tst_filemanager pictures >/dev/null
     echo
-    echo "The example file manager, as the sample phone shows it: $pictures"
+    echo "== The example file manager, as the sample phone shows it: $pictures"
     echo "  root.png, folder-list.png, folder-grid.png, details.png"
 }
 
@@ -164,11 +173,9 @@ demo)
     install_missing_packages
     echo "Building the library, its tools and the example file manager (log: $log)"
     quietly "The build" build plain
-    build/bin/kivsim -- build/bin/tambro storage
-    echo
-    build/bin/kivsim -- build/bin/tambro folders
-    echo
-    build/bin/kivsim -- build/bin/tambro du /kivlocal/download/tambro
+    show "The sample phone's storage partitions" storage
+    show "Its fixed folders, key words and preloaded content" folders
+    show "The phone memory's size and contents" du /kivlocal/download/tambro
     show_file_manager
     ;;
 test)

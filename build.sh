@@ -14,7 +14,7 @@ set -eu
 cd "$(dirname "$0")"
 
 packages="cmake ninja-build g++ binutils pkgconf qt6-base-dev qt6-tools-dev qt6-l10n-tools
-          qt6-tools-dev-tools bubblewrap shared-mime-info libbenchmark-dev
+          qt6-tools-dev-tools bubblewrap shared-mime-info help2man libbenchmark-dev
           clang libclang-rt-14-dev libglib2.0-dev fonts-dejavu-core xvfb xauth python3-dbusmock"
 
 install_missing_packages() {

@@ -1,4 +1,5 @@
 // Exit statuses of kivsim's own failures; any other status is the command's.
+// The manual page tells them to the user (kivsim.h2m, EXIT STATUS).
 #pragma once
 
 namespace ExitCode {

@@ -23,12 +23,13 @@ QString builtOrInstalled(const char *built, const char *installed)
 
 bool runsFromBuild()
 {
-    return QFileInfo(QCoreApplication::applicationDirPath()) == QFileInfo(QStringLiteral(KIVSIM_BUILD_BINDIR));
+    // The program's folder is a real path (the kernel's); the build's may have links.
+    return QCoreApplication::applicationDirPath() == QFileInfo(QStringLiteral(KIVSIM_BUILD_BINDIR)).canonicalFilePath();
 }
 
-QString buildFolder()
+QString ownFolder()
 {
-    return runsFromBuild() ? QStringLiteral(KIVSIM_BUILD_DIR) : QString();
+    return builtOrInstalled(KIVSIM_BUILD_DIR, KIVSIM_LIBDIR);
 }
 
 QString sampleDevice()

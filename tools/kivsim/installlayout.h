@@ -7,10 +7,12 @@
 
 namespace InstallLayout {
 
-// True when kivsim runs from the build tree, which it then shows read-only
-// inside the sandbox (the tests and examples run from there).
+// True when kivsim runs from the build's program folder.
 bool runsFromBuild();
-QString buildFolder();
+// The folder kivsim shows read-only for what runs from there: the build
+// tree, or the library folder of the prefix it is installed in, where the
+// programs installed beside it find the library.
+QString ownFolder();
 // The device folder used without --device.
 QString sampleDevice();
 QString simulatorPlatformFolder();

@@ -338,13 +338,11 @@ void setUpProcess(BwrapCommand &command, const SandboxSettings &settings,
         command.setEnvironment(QStringLiteral("HOME"), home);
     command.setEnvironment(QStringLiteral("XDG_CACHE_HOME"), home + QStringLiteral("/.cache"));
     command.setWorkingDirectory(QDir::currentPath());
-    if (InstallLayout::runsFromBuild()) {
 #ifdef KIVSIM_BUILD_DIR_WRITABLE
-        command.revealHostPath(InstallLayout::buildFolder(), BwrapCommand::Access::ReadWrite);
-#else
-        command.revealHostPath(InstallLayout::buildFolder(), BwrapCommand::Access::ReadOnly);
+    // Programs measured for coverage write their counters into the build folder.
+    command.revealHostPath(QStringLiteral(KIVSIM_BUILD_DIR), BwrapCommand::Access::ReadWrite);
 #endif
-    }
+    command.revealHostPath(InstallLayout::ownFolder(), BwrapCommand::Access::ReadOnly);
     // The command's folder, or the command alone where its folder is the
     // sandbox's own (a program right in /tmp).
     const QFileInfo program(commandLine.constFirst());

@@ -7,6 +7,13 @@
 namespace InstallLayout {
 namespace {
 
+// True when kivsim runs from the build's program folder. That folder is a
+// real path (the kernel's); the build's may have links.
+bool runsFromBuild()
+{
+    return QCoreApplication::applicationDirPath() == QFileInfo(QStringLiteral(KIVSIM_BUILD_BINDIR)).canonicalFilePath();
+}
+
 // A path under the prefix kivsim is installed in: its program folder's parent.
 QString underPrefix(const char *relative)
 {
@@ -20,12 +27,6 @@ QString builtOrInstalled(const char *built, const char *installed)
 }
 
 } // namespace
-
-bool runsFromBuild()
-{
-    // The program's folder is a real path (the kernel's); the build's may have links.
-    return QCoreApplication::applicationDirPath() == QFileInfo(QStringLiteral(KIVSIM_BUILD_BINDIR)).canonicalFilePath();
-}
 
 QString ownFolder()
 {

@@ -7,8 +7,6 @@
 
 namespace InstallLayout {
 
-// True when kivsim runs from the build's program folder.
-bool runsFromBuild();
 // The folder kivsim shows read-only for what runs from there: the build
 // tree, or the library folder of the prefix it is installed in, where the
 // programs installed beside it find the library.
